@@ -1,0 +1,123 @@
+// Speed figures of the course, measured offscreen:
+//   - from process start to the home page shown, and to lesson 1 shown
+//     (median over several runs of a fresh process);
+//   - for each lesson, the time to build it and show its first page, and
+//     its number of widgets (median over several fresh windows).
+// Run: mezurilo [runs]
+
+#include "funkcioj.h"
+#include "lernilo.h"
+
+#include <QAbstractButton>
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QFrame>
+#include <QProcess>
+#include <QTemporaryDir>
+#include <QTextStream>
+#include <algorithm>
+#include <cstdio>
+
+namespace {
+
+double mediano(QVector<double> v)
+{
+    std::sort(v.begin(), v.end());
+    const int n = v.size();
+    return n % 2 ? v.at(n / 2) : (v.at(n / 2 - 1) + v.at(n / 2)) / 2.0;
+}
+
+void preparas(const QTemporaryDir& ujo)
+{
+    sSistemo = QStringLiteral("linux");
+    Loko = QStringLiteral(":/");
+    mrLoko = ujo.path() + QStringLiteral("/");
+    savasLoko = ujo.path() + QStringLiteral("/");
+}
+
+void atendasMontron(QWidget* w)
+{
+    w->show();
+    QApplication::processEvents();
+    w->repaint();
+    QApplication::processEvents();
+}
+
+// Child process: shows the window (and lesson 1), then says so and ends.
+int infano(const QString& celo)
+{
+    QTemporaryDir ujo;
+    preparas(ujo);
+    lernilo fenestro;
+    atendasMontron(&fenestro);
+    if (celo == QLatin1String("leciono1")) {
+        fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono1"))->click();
+        fenestro.repaint();
+        QApplication::processEvents();
+    }
+    std::puts("preta");
+    std::fflush(stdout);
+    return 0;
+}
+
+double tempoDeProceso(const QString& celo)
+{
+    QProcess p;
+    QElapsedTimer t;
+    t.start();
+    p.start(QCoreApplication::applicationFilePath(), {QStringLiteral("--infano"), celo});
+    while (p.waitForReadyRead(30000)) {
+        if (p.readAll().contains("preta"))
+            break;
+    }
+    const double ms = t.nsecsElapsed() / 1e6;
+    p.waitForFinished(30000);
+    return ms;
+}
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    QApplication app(argc, argv);
+    const QStringList args = app.arguments();
+    if (args.size() > 2 && args.at(1) == QLatin1String("--infano"))
+        return infano(args.at(2));
+
+    const int kiom = args.size() > 1 ? qMax(1, args.at(1).toInt()) : 7;
+    QTextStream el(stdout);
+
+    QVector<double> hejmo, unua;
+    for (int i = 0; i < kiom; ++i) {
+        hejmo << tempoDeProceso(QStringLiteral("hejmo"));
+        unua << tempoDeProceso(QStringLiteral("leciono1"));
+    }
+    el << "Median over " << kiom << " runs, offscreen:\n";
+    el << QStringLiteral("  process start to home page shown:      %1 ms\n").arg(mediano(hejmo), 0, 'f', 1);
+    el << QStringLiteral("  process start to lesson 1 shown:       %1 ms\n").arg(mediano(unua), 0, 'f', 1);
+    el << "\nLesson   build and show (ms)   widgets\n";
+    el.flush();
+
+    QTemporaryDir ujo;
+    preparas(ujo);
+    for (int n = 1; n <= 13; ++n) {
+        QVector<double> tempoj;
+        int fenestrajhoj = 0;
+        for (int i = 0; i < kiom; ++i) {
+            lernilo fenestro;
+            atendasMontron(&fenestro);
+            QElapsedTimer t;
+            t.start();
+            fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(n))->click();
+            fenestro.repaint();
+            QApplication::processEvents();
+            tempoj << t.nsecsElapsed() / 1e6;
+            fenestrajhoj = fenestro.leciono(n)->findChildren<QWidget*>().size();
+        }
+        el << QStringLiteral("  %1     %2              %3\n")
+                  .arg(n, 2).arg(mediano(tempoj), 8, 'f', 1).arg(fenestrajhoj, 6);
+        el.flush();
+    }
+    return 0;
+}

@@ -1,0 +1,84 @@
+#ifndef FUNKCIOJ_H
+#define FUNKCIOJ_H
+
+// Process-wide state of the course and the free functions that the
+// subsystems share. The globals are plain variables on purpose: every part of
+// the program reads them directly, and all of it runs on the GUI thread.
+
+#include <QString>
+#include <QStringList>
+#include <QList>
+
+class QWidget;
+class QTabWidget;
+class QProgressBar;
+
+// File-name endings of every sound and every video file.
+static const QString mp3_finajho = QStringLiteral(".oga");
+static const QString video_finajho = QStringLiteral(".ogv");
+
+// Locations, filled once by main().
+extern QString sSistemo;    // "linux", "windows", "osx", "android", "ios"
+extern QString Loko;        // ":/", root of the compiled resources
+extern QString mrLoko;      // media folder, ends in "/"
+extern QString savasLoko;   // writable folder, ends in "/"
+
+// Resume point.
+extern int LastaLeciono;
+extern int LastaPagxo;
+
+// Blinking of a right answer: interval in ms and length in seconds.
+extern int Ofteco;
+extern int NumSec;
+
+// The language in use.
+extern QString sLingvo;
+extern QString sLingvoID;
+extern QString sTradukoDosiero;
+extern QString sTradukoDato;
+extern QString sTradukinto;
+extern QString Direkto;
+
+// Settings.
+extern QString sTiparo;
+extern QString sTiparoEo;
+extern int iLiterGrando;
+extern int iLiterGrandoEo;
+extern int iSistemo;
+extern int iFenestraStilo;
+extern int iLastaFojo;
+extern bool lCxapeligo;
+extern bool lSxaltilo;
+extern bool lNoteto;
+extern bool lKorektanto;
+extern QString sKorNomo;
+extern QString sKorAdreso;
+extern bool NeEkzistasTraduko;
+extern bool Tradukilo;
+extern QString EkzercoAkuzativoTrad;
+
+// Messages and button words of the current translation.
+extern QString smRekomencu, smGratulon, smDenove, smModifis, smTondujo,
+    smDevasHaviKor, smDevasSavi, smKoverto, smDisketo, smPordo, smLigilo,
+    smNeSono, Antauen, Nuligi;
+
+// Folder of kind "multrimedoj" (media) or "skribebla" (writable) on sSistemo.
+QString kiuSistemo(QString kiu);
+
+// Letter systems: 0 as it is, 1 Unicode to x system, 2 Unicode to h system,
+// 3 x system to Unicode.
+QString CxSist(QString teksto, int sistemo);
+
+// Plays a sound file given relative to the media folder, through the main
+// window's one player. Silent while another window is active.
+void mp3(QString dosiero);
+
+// Address of a help page: "kio" what Esperanto is, anything else how to use
+// the course, both in the current language.
+QString helpdosiero(QString kiu);
+
+// A draw from 0 to n-1; 0 for n = 0.
+int random(int n);
+void randomize();
+
+#endif

@@ -1,0 +1,100 @@
+#ifndef LERNILO_H
+#define LERNILO_H
+
+#include <QList>
+#include <QMainWindow>
+#include <QStringList>
+
+class QFrame;
+class QLabel;
+class QMediaPlayer;
+class FileDownloader;
+class traduko;
+
+namespace Ui {
+class lernilo;
+}
+
+// The course's one main window. Everything the learner sees is a page of the
+// stacked widget Paghujo: the home page, the thirteen lessons, the settings
+// and the credits.
+class lernilo : public QMainWindow
+{
+    Q_OBJECT
+
+public:
+    explicit lernilo(QWidget* parent = nullptr);
+    ~lernilo() override;
+
+    // The player of every short sound: words, praise, greeting.
+    QMediaPlayer* ludilo = nullptr;
+
+    // The frame of lesson `numero` (1 to 13), null until first opened.
+    QFrame* leciono(int numero) const;
+
+public slots:
+    void ShanghasPaghon(QString pagho, QFrame* leciono);
+    void komencas_navigujon();
+    void montras_koverton(bool sendas, int pagho);
+    void Centrigas_Fenestron();
+    void SavasKonfig();
+    void Stilo();
+
+    void on_Leciono1_clicked();
+    void on_Leciono2_clicked();
+    void on_Leciono3_clicked();
+    void on_Leciono4_clicked();
+    void on_Leciono5_clicked();
+    void on_Leciono6_clicked();
+    void on_Leciono7_clicked();
+    void on_Leciono8_clicked();
+    void on_Leciono9_clicked();
+    void on_Leciono10_clicked();
+    void on_Leciono11_clicked();
+    void on_Leciono12_clicked();
+    void on_Leciono13_clicked();
+
+    void on_KieButono_clicked();
+    void on_label_Kie_clicked();
+    void on_Hejmo_clicked();
+    void on_butono_androjdo_clicked();
+    void on_dekstren_clicked();
+    void on_maldekstren_clicked();
+    void on_Eliri_clicked();
+    void on_label_Eliri_clicked();
+    void on_Kreditoj_clicked();
+    void on_label_Kreditoj_clicked();
+    void on_Konfigurado_clicked();
+    void on_label_Konfiguroj_clicked();
+    void on_KioEstas_clicked();
+    void on_KielUzi_clicked();
+    void on_label_Kio_clicked();
+    void on_label_Kiel_clicked();
+
+    // Kept for the window's look; they have nothing to do.
+    void Ghustigas_fenestron();
+    void ReGrandigas_Fenestron();
+    void Malgrandigas();
+    void Fenestra_Stilo();
+    void on_radioButton_clicked(bool);
+    void on_radioButton_2_clicked(bool);
+    void on_radioButton_3_clicked(bool);
+
+protected:
+    void closeEvent(QCloseEvent* evento) override;
+    void showEvent(QShowEvent* evento) override;
+
+private:
+    void komencakonfiguro();
+    void malfermasLecionon(int numero);
+
+    Ui::lernilo* ui;
+    traduko* tradukilo = nullptr;
+    QList<QStringList> lingvoListo;
+    QStringList tradukitaj;
+    FileDownloader* elshutilo = nullptr;
+    QLabel* kadroEtikedo = nullptr;
+    QFrame* lecionoj[13] = {};
+};
+
+#endif

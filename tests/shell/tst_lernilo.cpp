@@ -1,0 +1,284 @@
+// The main window's routing: lessons built once and on demand, the resume
+// point, home, and closing only from the home page.
+
+#include "lernilo.h"
+#include "testaj_helpoj.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QFrame>
+#include <QScrollArea>
+#include <QSettings>
+#include <QStackedWidget>
+#include <QTabWidget>
+#include <QtTest>
+
+class tst_lernilo : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void hejmpaghoSenBreto();
+    void lecionoKonstruataUnufoje();
+    void lecionoMontrataKunBretoj();
+    void nekonataPaghoShanghasNenion();
+    void rekomencoEnSamaLeciono_data();
+    void rekomencoEnSamaLeciono();
+    void aliaLecionoKomencasDeUnua();
+    void kieButonoJeUnuaFojo();
+    void hejmoKonservasRekomencon();
+    void konservitaLangetoMalgravas();
+    void akuzativaTraduko_data();
+    void akuzativaTraduko();
+    void paghojAranghatajNurKiamMontrataj();
+    void aliaFenestroNeShovasRekomencon();
+    void fermoElLecionoIrasHejmen();
+    void fermoElHejmoKonservas();
+
+private:
+    void klakas(const QString& butono);
+    QTabWidget* langetoj(int leciono);
+
+    QTemporaryDir* ujo = nullptr;
+    lernilo* fenestro = nullptr;
+};
+
+void tst_lernilo::init()
+{
+    ujo = new QTemporaryDir;
+    preparasLokojn(*ujo);
+    fenestro = new lernilo;
+}
+
+void tst_lernilo::cleanup()
+{
+    delete fenestro;
+    delete ujo;
+}
+
+void tst_lernilo::klakas(const QString& butono)
+{
+    auto* b = fenestro->findChild<QAbstractButton*>(butono);
+    QVERIFY2(b, qPrintable(butono));
+    b->click();
+}
+
+QTabWidget* tst_lernilo::langetoj(int leciono)
+{
+    QFrame* kadro = fenestro->leciono(leciono);
+    return kadro ? kadro->findChild<QTabWidget*>() : nullptr;
+}
+
+void tst_lernilo::hejmpaghoSenBreto()
+{
+    auto* paghujo = fenestro->findChild<QStackedWidget*>("Paghujo");
+    QCOMPARE(paghujo->count(), 17);
+    QCOMPARE(paghujo->currentIndex(), 0);
+    QCOMPARE(paghujo->currentWidget()->objectName(), QStringLiteral("ChefaPagho"));
+    for (const char* nomo : {"butonujo", "navigujo", "paghopiedo"})
+        QVERIFY2(fenestro->findChild<QWidget*>(nomo)->isHidden(), nomo);
+    for (int n = 1; n <= 13; ++n)
+        QCOMPARE(fenestro->leciono(n), nullptr);
+}
+
+void tst_lernilo::lecionoKonstruataUnufoje()
+{
+    klakas("Leciono3");
+    QFrame* unua = fenestro->leciono(3);
+    QVERIFY(unua);
+    QCOMPARE(unua->objectName(), QStringLiteral("lec03"));
+    klakas("Hejmo");
+    klakas("Leciono3");
+    klakas("Hejmo");
+    klakas("Leciono3");
+    QCOMPARE(fenestro->leciono(3), unua);
+    QWidget* pagho = fenestro->findChild<QWidget*>("Pagho03");
+    QCOMPARE(pagho->findChildren<QTabWidget*>().size(), 1);
+    QCOMPARE(fenestro->leciono(4), nullptr);
+}
+
+void tst_lernilo::lecionoMontrataKunBretoj()
+{
+    klakas("Leciono1");
+    auto* paghujo = fenestro->findChild<QStackedWidget*>("Paghujo");
+    QCOMPARE(paghujo->currentIndex(), 1);
+    QVERIFY(!fenestro->findChild<QWidget*>("butonujo")->isHidden());
+    QVERIFY(!fenestro->findChild<QWidget*>("navigujo")->isHidden());
+    QVERIFY(fenestro->findChild<QWidget*>("paghopiedo")->isHidden());
+    QCOMPARE(fenestro->findChild<QLabel*>("kiom_da_paghoj")->text(), QStringLiteral("1/13"));
+    klakas("Hejmo");
+    QCOMPARE(paghujo->currentIndex(), 0);
+    QVERIFY(fenestro->findChild<QWidget*>("butonujo")->isHidden());
+    QVERIFY(fenestro->findChild<QWidget*>("navigujo")->isHidden());
+}
+
+void tst_lernilo::nekonataPaghoShanghasNenion()
+{
+    LastaLeciono = 4;
+    LastaPagxo = 2;
+    fenestro->ShanghasPaghon("Pagho14", nullptr);
+    auto* paghujo = fenestro->findChild<QStackedWidget*>("Paghujo");
+    QCOMPARE(paghujo->currentIndex(), 0);
+    QCOMPARE(LastaLeciono, 4);
+    QCOMPARE(LastaPagxo, 2);
+}
+
+void tst_lernilo::rekomencoEnSamaLeciono_data()
+{
+    QTest::addColumn<QString>("butono");
+    QTest::newRow("by the lesson button") << "Leciono5";
+    QTest::newRow("by 'where I stopped'") << "KieButono";
+}
+
+void tst_lernilo::rekomencoEnSamaLeciono()
+{
+    QFETCH(QString, butono);
+    // As read from the settings of a run that ended on lesson 5, page 7.
+    LastaLeciono = 5;
+    LastaPagxo = 7;
+    klakas(butono);
+    QCOMPARE(langetoj(5)->currentIndex(), 7);
+    QCOMPARE(LastaLeciono, 5);
+    QCOMPARE(LastaPagxo, 7);
+    QCOMPARE(fenestro->findChild<QLabel*>("kiom_da_paghoj")->text(), QStringLiteral("8/12"));
+}
+
+void tst_lernilo::aliaLecionoKomencasDeUnua()
+{
+    klakas("Leciono3");
+    langetoj(3)->setCurrentIndex(4);
+    klakas("Hejmo");
+    klakas("Leciono4");
+    QCOMPARE(LastaLeciono, 4);
+    klakas("Hejmo");
+    klakas("Leciono3");
+    QCOMPARE(langetoj(3)->currentIndex(), 0);
+    QCOMPARE(LastaPagxo, 0);
+}
+
+void tst_lernilo::kieButonoJeUnuaFojo()
+{
+    // No settings file: the defaults say lesson 1, page 0.
+    QCOMPARE(LastaLeciono, 1);
+    QCOMPARE(LastaPagxo, 0);
+    klakas("KieButono");
+    auto* paghujo = fenestro->findChild<QStackedWidget*>("Paghujo");
+    QCOMPARE(paghujo->currentIndex(), 1);
+    QCOMPARE(langetoj(1)->currentIndex(), 0);
+
+    klakas("Hejmo");
+    LastaLeciono = 14;
+    klakas("KieButono");
+    QCOMPARE(paghujo->currentIndex(), 0);
+}
+
+void tst_lernilo::hejmoKonservasRekomencon()
+{
+    klakas("Leciono2");
+    klakas("dekstren");
+    klakas("dekstren");
+    QCOMPARE(LastaPagxo, 2);
+    klakas("Hejmo");
+    QCOMPARE(LastaLeciono, 2);
+    QCOMPARE(LastaPagxo, 2);
+    klakas("Leciono2");
+    QCOMPARE(langetoj(2)->currentIndex(), 2);
+}
+
+void tst_lernilo::konservitaLangetoMalgravas()
+{
+    // Lesson 3's form stores tab 9 as its current one; the learner sees page 0.
+    klakas("Leciono3");
+    QCOMPARE(langetoj(3)->currentIndex(), 0);
+    QCOMPARE(LastaPagxo, 0);
+}
+
+void tst_lernilo::akuzativaTraduko_data()
+{
+    QTest::addColumn<QString>("butono");
+    QTest::addColumn<QString>("sekcio");
+    QTest::newRow("2") << "Leciono2" << "0204";
+    QTest::newRow("6") << "Leciono6" << "0605";
+    QTest::newRow("8") << "Leciono8" << "0802";
+    QTest::newRow("10") << "Leciono10" << "1001";
+    QTest::newRow("12") << "Leciono12" << "1202";
+    QTest::newRow("others leave it") << "Leciono7" << "keep";
+}
+
+void tst_lernilo::akuzativaTraduko()
+{
+    QFETCH(QString, butono);
+    QFETCH(QString, sekcio);
+    EkzercoAkuzativoTrad = "keep";
+    klakas(butono);
+    QCOMPARE(EkzercoAkuzativoTrad, sekcio);
+}
+
+void tst_lernilo::paghojAranghatajNurKiamMontrataj()
+{
+    klakas("Leciono1");
+    QTabWidget* l = langetoj(1);
+    auto rulumoDe = [l](int i) { return l->widget(i)->findChild<QScrollArea*>(); };
+    // Tab 0 is shown without any change of tab, and still laid out.
+    QVERIFY(rulumoDe(0)->widgetResizable());
+    QVERIFY(!rulumoDe(2)->widgetResizable());
+    QVERIFY(!rulumoDe(3)->widgetResizable());
+    klakas("dekstren");
+    klakas("dekstren");
+    QCOMPARE(l->currentIndex(), 2);
+    QVERIFY(rulumoDe(2)->widgetResizable());
+    QVERIFY(!rulumoDe(3)->widgetResizable());
+}
+
+void tst_lernilo::aliaFenestroNeShovasRekomencon()
+{
+    fenestro->show();
+    fenestro->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(fenestro));
+    klakas("Leciono2");
+    langetoj(2)->setCurrentIndex(3);
+    QCOMPARE(LastaPagxo, 3);
+
+    QWidget alia;
+    alia.show();
+    alia.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&alia));
+    langetoj(2)->setCurrentIndex(5);
+    QCOMPARE(LastaPagxo, 3);
+    // The page is laid out all the same.
+    QVERIFY(langetoj(2)->widget(5)->findChildren<QScrollArea*>().isEmpty()
+            || langetoj(2)->widget(5)->findChild<QScrollArea*>()->widgetResizable());
+}
+
+void tst_lernilo::fermoElLecionoIrasHejmen()
+{
+    klakas("Leciono1");
+    QCloseEvent evento;
+    QApplication::sendEvent(fenestro, &evento);
+    QVERIFY(!evento.isAccepted());
+    QCOMPARE(fenestro->findChild<QStackedWidget*>("Paghujo")->currentIndex(), 0);
+    QVERIFY(!QFile::exists(savasLoko + "lernilomelo.ini"));
+}
+
+void tst_lernilo::fermoElHejmoKonservas()
+{
+    klakas("Leciono6");
+    langetoj(6)->setCurrentIndex(4);
+    klakas("Hejmo");
+    QCloseEvent evento;
+    QApplication::sendEvent(fenestro, &evento);
+    QVERIFY(evento.isAccepted());
+
+    QSettings agordoj(savasLoko + "lernilomelo.ini", QSettings::IniFormat);
+    agordoj.beginGroup("Gxenerala");
+    QCOMPARE(agordoj.childKeys().size(), 13);
+    QCOMPARE(agordoj.value("LastaLeciono").toInt(), 6);
+    QCOMPARE(agordoj.value("LastaPagxo").toInt(), 4);
+    QCOMPARE(agordoj.value("LiterGrando").toInt(), 11);
+    QCOMPARE(agordoj.value("Tiparo").toString(), QStringLiteral("DejaVu Sans"));
+}
+
+QTEST_MAIN(tst_lernilo)
+#include "tst_lernilo.moc"

@@ -1,0 +1,34 @@
+#!/bin/sh
+# Installs the Debian packages that building, running and testing the course
+# need. Only packages that are missing are installed, so a second run is quick.
+set -eu
+
+PAKOJ="
+build-essential cmake pkg-config
+qtbase5-dev qtbase5-dev-tools qtmultimedia5-dev libqt5multimedia5-plugins libqt5svg5-dev
+gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-tools
+espeak-ng sox vorbis-tools ffmpeg
+fonts-dejavu-core
+hunspell myspell-eo
+poppler-utils xvfb xauth
+"
+
+mankas=""
+for p in $PAKOJ; do
+    if ! dpkg-query -W -f='${Status}' "$p" 2>/dev/null | grep -q "install ok installed"; then
+        mankas="$mankas $p"
+    fi
+done
+
+[ -z "$mankas" ] && exit 0
+
+echo "Installing:$mankas"
+if [ "$(id -u)" -eq 0 ]; then
+    SUDO=""
+else
+    SUDO="sudo"
+fi
+export DEBIAN_FRONTEND=noninteractive
+$SUDO apt-get update -qq
+# shellcheck disable=SC2086
+$SUDO apt-get install -y -qq --no-install-recommends $mankas
