@@ -2,7 +2,12 @@
 #include "lernilo.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
 #include <QMediaPlayer>
+#include <QMessageBox>
+#include <QScreen>
 #include <QUrl>
 
 #include <QCoreApplication>
@@ -86,7 +91,11 @@ int random(int n)
 
 void randomize()
 {
+    // Kept for the old random functions; the shared draw does not need it.
+QT_WARNING_PUSH
+QT_WARNING_DISABLE_DEPRECATED
     qsrand(uint(QTime::currentTime().msec()));
+QT_WARNING_POP
 }
 
 namespace {
@@ -122,6 +131,19 @@ QString CxSist(QString teksto, int sistemo)
     return teksto;
 }
 
+QString vortoSono(const QString& ciferoj, const QString& vorto, bool auh)
+{
+    QString nomo = CxSist(vorto, 1);
+    if (auh && nomo == QLatin1String("aux"))
+        nomo = QStringLiteral("auh");
+    return QStringLiteral("sonoj/lec") + ciferoj + QLatin1Char('/') + nomo + mp3_finajho;
+}
+
+QString frazoSono(const QString& ciferoj, const QString& numero)
+{
+    return QStringLiteral("sonoj/lec") + ciferoj + QStringLiteral("/btn") + numero + mp3_finajho;
+}
+
 void mp3(QString dosiero)
 {
     auto* fenestro = qobject_cast<lernilo*>(QApplication::activeWindow());
@@ -141,4 +163,113 @@ QString helpdosiero(QString kiu)
     QString pagho = sTradukoDosiero;
     pagho.replace(QLatin1String(".trd"), QLatin1String(".html"));
     return QStringLiteral("http://" LERNILO_SERVILO "/datumoj/kiel/kiel_") + pagho;
+}
+
+QString purigas(QString teksto, bool minuskle)
+{
+    while (teksto.contains(QLatin1String("  ")))
+        teksto.replace(QLatin1String("  "), QLatin1String(" "));
+    teksto = teksto.trimmed();
+    teksto.remove(QLatin1Char('.'));
+    teksto.remove(QLatin1Char(','));
+    if (minuskle)
+        teksto = teksto.toLower();
+    return teksto;
+}
+
+int ghustigas_tiparon(int grando)
+{
+    const QScreen* ekrano = QGuiApplication::primaryScreen();
+    const qreal punktoj = ekrano ? ekrano->logicalDotsPerInch() : 96.0;
+    return qRound(96.0 / punktoj * grando);
+}
+
+void Noteto(bool ghuste)
+{
+    if (!lNoteto)
+        return;
+    mp3(QStringLiteral("sonoj/") + (ghuste ? QStringLiteral("noteto_jes") : QStringLiteral("noteto_ne")) + mp3_finajho);
+}
+
+namespace {
+
+// Plays one of the recorded variants of a word, "sonoj/" + word + one character.
+void ludasVarianton(const QString& vorto)
+{
+    QDir ujo(mrLoko + QStringLiteral("sonoj/"), vorto + QLatin1Char('?') + mp3_finajho);
+    const int n = int(ujo.count());
+    const int r = random(n);
+    if (n >= 1)
+        mp3(QStringLiteral("sonoj/") + ujo.entryList().value(r));
+}
+
+// The spoken verdict: the first draw is used if such a file is there;
+// otherwise a few more draws, and the last one is played as it is.
+void parolasVerdikton(const QString& radiko)
+{
+    random(8);
+    int k = random(8) + 1;
+    QString nomo = radiko + QString::number(k) + mp3_finajho;
+    const QFile unua(nomo);
+    for (int provoj = 0; !unua.exists() && provoj < 8; ++provoj) {
+        k = random(8) + 1;
+        nomo = radiko + QString::number(k) + mp3_finajho;
+    }
+    mp3(nomo);
+}
+
+} // namespace
+
+void Jes()
+{
+    if (lNoteto) {
+        mp3(QStringLiteral("sonoj/noteto_jes") + mp3_finajho);
+        Pauzu(2);
+    }
+    if (!lSxaltilo)
+        return;
+    static const char* const vortoj[] = {"jes", "trebone", "bonege", "prave", "trafe", "korekte"};
+    int elekto;
+    do {
+        elekto = random(6);
+    } while (elekto == iLastaFojo);
+    iLastaFojo = elekto;
+    ludasVarianton(QLatin1String(vortoj[elekto]));
+}
+
+void Ne()
+{
+    if (lNoteto) {
+        mp3(QStringLiteral("sonoj/noteto_ne") + mp3_finajho);
+        Pauzu(2);
+    }
+    if (!lSxaltilo)
+        return;
+    ludasVarianton(QStringLiteral("ne"));
+}
+
+void Mesagxo(int eraroj, int sukcesoj)
+{
+    QMessageBox skatolo(QApplication::activeWindow());
+    const bool bona = sukcesoj * 100 / (eraroj + sukcesoj) >= 70;
+    if (lSxaltilo)
+        parolasVerdikton(bona ? QStringLiteral("sonoj/gratulo") : QStringLiteral("sonoj/nebona"));
+    else if (lNoteto)
+        mp3(QStringLiteral("sonoj/") + (bona ? QStringLiteral("noteto_jes") : QStringLiteral("noteto_ne")) + mp3_finajho);
+    skatolo.setText(bona ? smGratulon : smDenove);
+    skatolo.setIcon(QMessageBox::Information);
+    skatolo.exec();
+}
+
+void Pauzu(int sekundoj)
+{
+    // A busy wait on purpose: the window repaints and takes clicks meanwhile.
+    QElapsedTimer tempo;
+    tempo.start();
+    while (tempo.elapsed() < qint64(sekundoj) * 1000)
+        QCoreApplication::processEvents();
+}
+
+void Sinkronigu()
+{
 }

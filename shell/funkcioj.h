@@ -69,9 +69,34 @@ QString kiuSistemo(QString kiu);
 // 3 x system to Unicode.
 QString CxSist(QString teksto, int sistemo);
 
+// Sound files of a lesson's words and phrases, relative to the media folder.
+// A word is named by its x-system spelling, "aux" (the word aŭ) by "auh"
+// where `auh` is asked for; a phrase by the number of the clickable word that
+// shows it. `ciferoj` are the lesson's two digits.
+QString vortoSono(const QString& ciferoj, const QString& vorto, bool auh);
+QString frazoSono(const QString& ciferoj, const QString& numero);
+
 // Plays a sound file given relative to the media folder, through the main
 // window's one player. Silent while another window is active.
 void mp3(QString dosiero);
+
+// Cleans a typed answer for comparison: runs of blanks made one, ends
+// trimmed, full stops and commas removed, and lower case if asked.
+QString purigas(QString teksto, bool minuskle);
+
+// A font size in points, scaled so that it looks the same on every screen.
+int ghustigas_tiparon(int grando);
+
+// Spoken feedback. Noteto: the note for right (true) or wrong (false).
+// Jes/Ne: note, pause, spoken praise or refusal. Mesagxo: the verdict box at
+// the end of an exercise, wrong answers first. Pauzu: waits whole seconds
+// with the window alive.
+void Noteto(bool ghuste);
+void Jes();
+void Ne();
+void Mesagxo(int eraroj, int sukcesoj);
+void Pauzu(int sekundoj);
+void Sinkronigu();
 
 // Address of a help page: "kio" what Esperanto is, anything else how to use
 // the course, both in the current language.

@@ -3,6 +3,7 @@
 #include "klasregistro.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QScrollArea>
 #include <QTabWidget>
@@ -130,14 +131,17 @@ void tst_lecionfonto::konstruasArbon()
     QCOMPARE(QString(vorto->metaObject()->className()), QStringLiteral("klakbutono_nova"));
     auto* silenta = pagho->findChild<QLabel*>("Lec02_Button13");
     QCOMPARE(silenta->property("lingvo").toString(), QStringLiteral("eo"));
-    // The row holds the arrow, the word, the equals sign and the silent word, in order.
-    QLayout* vico = rulumo->widget()->findChild<QLayout*>("horizontalLayout");
+    // The word-and-meaning row took the first free row name, the explicit row
+    // the second; it holds the arrow, the word, the equals sign and the
+    // silent word, in order.
+    QCOMPARE(rulumo->widget()->findChild<QLayout*>("horizontalLayout")->count(), 2);
+    QLayout* vico = rulumo->widget()->findChild<QLayout*>("horizontalLayout_2");
     QVERIFY(vico);
     QCOMPARE(vico->count(), 4);
     QCOMPARE(QString(vico->itemAt(0)->widget()->metaObject()->className()), QStringLiteral("label_sago_reversa"));
     QCOMPARE(vico->itemAt(1)->widget(), vorto);
     QCOMPARE(vico->itemAt(2)->widget()->property("tipo").toString(), QStringLiteral("egala"));
-    QVERIFY(!static_cast<QLabel*>(vico->itemAt(2)->widget())->pixmap()->isNull());
+    QVERIFY(!static_cast<QLabel*>(vico->itemAt(2)->widget())->pixmap(Qt::ReturnByValue).isNull());
 
     auto* demando = kadro.findChild<QLabel*>("Lec02_Label50");
     QVERIFY(demando);

@@ -8,6 +8,7 @@
 #include "testaj_helpoj.h"
 
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QRegularExpression>

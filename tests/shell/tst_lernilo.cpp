@@ -7,6 +7,7 @@
 #include <QAbstractButton>
 #include <QCloseEvent>
 #include <QFrame>
+#include <QLabel>
 #include <QScrollArea>
 #include <QSettings>
 #include <QStackedWidget>
