@@ -14,6 +14,12 @@ private slots:
     void randomRestasEnLimoj_data();
     void randomRestasEnLimoj();
     void randomDeNulo();
+    void cxSist_data();
+    void cxSist();
+    void purigas_data();
+    void purigas();
+    void sonoNomoj_data();
+    void sonoNomoj();
 };
 
 void tst_funkcioj::kiuSistemo_data()
@@ -78,6 +84,80 @@ void tst_funkcioj::randomDeNulo()
 {
     for (int i = 0; i < 100; ++i)
         QCOMPARE(random(0), 0);
+}
+
+void tst_funkcioj::cxSist_data()
+{
+    QTest::addColumn<QString>("teksto");
+    QTest::addColumn<int>("sistemo");
+    QTest::addColumn<QString>("atendo");
+
+    const QString cxiuj = QString::fromUtf8("ĉĝĥĵŝŭĈĜĤĴŜŬ");
+    QTest::newRow("empty, x") << "" << 1 << "";
+    QTest::newRow("empty, h") << "" << 2 << "";
+    QTest::newRow("empty, back") << "" << 3 << "";
+    QTest::newRow("none") << cxiuj << 0 << cxiuj;
+    QTest::newRow("all to x") << cxiuj << 1 << "cxgxhxjxsxuxCxGxHxJxSxUx";
+    QTest::newRow("all to h, u loses its mark") << cxiuj << 2 << "chghhhjhshuChGhHhJhShU";
+    QTest::newRow("x back") << "cxgxhxjxsxuxCxGxHxJxSxUx" << 3 << cxiuj;
+    QTest::newRow("sX and SX stay") << "sX SX" << 3 << "sX SX";
+    QTest::newRow("Unicode stays on the way back") << QString::fromUtf8("ĉu sxi") << 3 << QString::fromUtf8("ĉu ŝi");
+    QTest::newRow("plain text, x") << "La viro estas alta." << 1 << "La viro estas alta.";
+    QTest::newRow("plain text, h") << "La viro estas alta." << 2 << "La viro estas alta.";
+    QTest::newRow("foreign ux pair") << "Linux" << 3 << QString::fromUtf8("Linŭ");
+    QTest::newRow("sentence to h") << QString::fromUtf8("Ŝi aĉetas ĉiujn ŝuojn.") << 2 << "Shi achetas chiujn shuojn.";
+}
+
+void tst_funkcioj::cxSist()
+{
+    QFETCH(QString, teksto);
+    QFETCH(int, sistemo);
+    QFETCH(QString, atendo);
+    QCOMPARE(CxSist(teksto, sistemo), atendo);
+}
+
+void tst_funkcioj::purigas_data()
+{
+    QTest::addColumn<QString>("teksto");
+    QTest::addColumn<bool>("minuskle");
+    QTest::addColumn<QString>("atendo");
+
+    QTest::newRow("blanks and case") << "  Bonan   tagon.  " << true << "bonan tagon";
+    QTest::newRow("comma, case kept") << "Jes, mi." << false << "Jes mi";
+    QTest::newRow("comma after blanks leaves two") << "a , b" << false << "a  b";
+    QTest::newRow("stop after a blank leaves one") << "a ." << false << "a ";
+    QTest::newRow("other marks stay") << "Kial? Jes! a; b: c" << false << "Kial? Jes! a; b: c";
+    QTest::newRow("diacritics kept, lowered") << QString::fromUtf8("ĈU ŜI?") << true << QString::fromUtf8("ĉu ŝi?");
+    QTest::newRow("only a stop") << "." << true << "";
+    QTest::newRow("thousands mark") << "1.850" << false << "1850";
+}
+
+void tst_funkcioj::purigas()
+{
+    QFETCH(QString, teksto);
+    QFETCH(bool, minuskle);
+    QFETCH(QString, atendo);
+    QCOMPARE(::purigas(teksto, minuskle), atendo);
+}
+
+void tst_funkcioj::sonoNomoj_data()
+{
+    QTest::addColumn<QString>("vorto");
+    QTest::addColumn<bool>("auh");
+    QTest::addColumn<QString>("atendo");
+    QTest::newRow("x spelling") << QString::fromUtf8("ĉiu") << true << "sonoj/lec02/cxiu.oga";
+    QTest::newRow("the word aŭ") << QString::fromUtf8("aŭ") << true << "sonoj/lec02/auh.oga";
+    QTest::newRow("aŭ without the rename") << QString::fromUtf8("aŭ") << false << "sonoj/lec02/aux.oga";
+    QTest::newRow("only the whole word") << QString::fromUtf8("aŭto") << true << "sonoj/lec02/auxto.oga";
+}
+
+void tst_funkcioj::sonoNomoj()
+{
+    QFETCH(QString, vorto);
+    QFETCH(bool, auh);
+    QFETCH(QString, atendo);
+    QCOMPARE(vortoSono("02", vorto, auh), atendo);
+    QCOMPARE(frazoSono("07", "254"), QStringLiteral("sonoj/lec07/btn254.oga"));
 }
 
 QTEST_GUILESS_MAIN(tst_funkcioj)

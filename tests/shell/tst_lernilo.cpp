@@ -35,6 +35,9 @@ private slots:
     void akuzativaTraduko();
     void paghojAranghatajNurKiamMontrataj();
     void aliaFenestroNeShovasRekomencon();
+    void navigiloRondiras();
+    void sagojLauDirekto_data();
+    void sagojLauDirekto();
     void fermoElLecionoIrasHejmen();
     void fermoElHejmoKonservas();
 
@@ -251,6 +254,64 @@ void tst_lernilo::aliaFenestroNeShovasRekomencon()
     // The page is laid out all the same.
     QVERIFY(langetoj(2)->widget(5)->findChildren<QScrollArea*>().isEmpty()
             || langetoj(2)->widget(5)->findChild<QScrollArea*>()->widgetResizable());
+}
+
+void tst_lernilo::navigiloRondiras()
+{
+    klakas("Leciono3");
+    QTabWidget* l = langetoj(3);
+    auto* nombrilo = fenestro->findChild<QLabel*>("kiom_da_paghoj");
+    QCOMPARE(nombrilo->text(), QStringLiteral("1/10"));
+    klakas("maldekstren");
+    QCOMPARE(l->currentIndex(), 9);
+    QCOMPARE(nombrilo->text(), QStringLiteral("10/10"));
+    QCOMPARE(LastaPagxo, 9);
+    klakas("dekstren");
+    QCOMPARE(l->currentIndex(), 0);
+    QCOMPARE(nombrilo->text(), QStringLiteral("1/10"));
+    klakas("dekstren");
+    klakas("dekstren");
+    QCOMPARE(nombrilo->text(), QStringLiteral("3/10"));
+    // The picture of the lesson stands beside the counter.
+    const QImage bildo = fenestro->findChild<QLabel*>("leciono")->pixmap(Qt::ReturnByValue).toImage();
+    QCOMPARE(bildo, QPixmap(":/ikonoj_androjdo/hejmo/leciono03.png").toImage());
+}
+
+void tst_lernilo::sagojLauDirekto_data()
+{
+    QTest::addColumn<QString>("direkto");
+    QTest::addColumn<bool>("dekstrenMontrasDekstren");
+    QTest::newRow("left to right") << "LTR" << true;
+    QTest::newRow("right to left") << "RTL" << false;
+    QTest::newRow("no direction in the file") << "" << true;
+}
+
+void tst_lernilo::sagojLauDirekto()
+{
+    QFETCH(QString, direkto);
+    QFETCH(bool, dekstrenMontrasDekstren);
+    // A translation in the writable folder comes before the one built in.
+    sTradukoDosiero = "provo.trd";
+    QFile dosiero(savasLoko + sTradukoDosiero);
+    QVERIFY(dosiero.open(QIODevice::WriteOnly));
+    dosiero.write("[Traduko]\r\nLingvoID=xx\r\n");
+    if (!direkto.isEmpty())
+        dosiero.write("Direkto=" + direkto.toLatin1() + "\r\n");
+    dosiero.close();
+
+    klakas("Leciono4");
+    const QImage antauen = QPixmap(":/ikonoj_androjdo/baseline_arrow_forward_black_36.png").toImage();
+    const QImage malantauen = QPixmap(":/ikonoj_androjdo/baseline_arrow_back_black_36.png").toImage();
+    auto bildoDe = [this](const char* nomo) {
+        return fenestro->findChild<QAbstractButton*>(nomo)->icon().pixmap(36, 36).toImage();
+    };
+    QCOMPARE(bildoDe("dekstren") == antauen, dekstrenMontrasDekstren);
+    QCOMPARE(bildoDe("maldekstren") == malantauen, dekstrenMontrasDekstren);
+    QCOMPARE(bildoDe("dekstren") == malantauen, !dekstrenMontrasDekstren);
+    // Whatever the arrows show, "dekstren" goes on to the next page.
+    klakas("dekstren");
+    QCOMPARE(langetoj(4)->currentIndex(), 1);
+    sTradukoDosiero.clear();
 }
 
 void tst_lernilo::fermoElLecionoIrasHejmen()

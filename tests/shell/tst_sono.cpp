@@ -1,0 +1,238 @@
+// Spoken feedback: which file the one player is given, the pauses, the
+// verdict box, and silence while another window has the focus.
+
+#include "lernilo.h"
+#include "testaj_helpoj.h"
+
+#include <QElapsedTimer>
+#include <QFile>
+#include <QFileInfo>
+#include <QMediaPlayer>
+#include <QMessageBox>
+#include <QTimer>
+#include <QtTest>
+
+class tst_sono : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void cleanupTestCase();
+    void jesNeRipetasVorton();
+    void jesUnuaNeEstasJes();
+    void jesPauzoNurKunNotoj();
+    void jesSenDosieroTamenShanghasVorton();
+    void neDiras();
+    void mesagxo_data();
+    void mesagxo();
+    void mp3MinuskligasKajSilentasSenFokuso();
+
+private:
+    QString ludata() const;
+    void faras(const QString& nomo);
+    QString fermasSkatolon(std::function<void()> ago);
+
+    QTemporaryDir* ujo = nullptr;
+    lernilo* fenestro = nullptr;
+};
+
+QString tst_sono::ludata() const
+{
+    const QString vojo = fenestro->ludilo->media().request().url().toLocalFile();
+    return vojo.startsWith(mrLoko) ? vojo.mid(mrLoko.size()) : vojo;
+}
+
+void tst_sono::faras(const QString& nomo)
+{
+    QFile f(mrLoko + "sonoj/" + nomo);
+    QVERIFY(f.open(QIODevice::WriteOnly));
+}
+
+void tst_sono::initTestCase()
+{
+    ujo = new QTemporaryDir;
+    preparasLokojn(*ujo);
+    mrLoko = ujo->path() + "/Medioj/";   // a capital that must stay
+    QDir().mkpath(mrLoko + "sonoj");
+    for (const char* vorto : {"jes", "trebone", "bonege", "prave", "trafe", "korekte", "ne"}) {
+        for (const char* fino : {"a", "b"})
+            faras(QString::fromLatin1(vorto) + fino + ".oga");
+    }
+    for (int i = 1; i <= 8; ++i) {
+        faras(QStringLiteral("gratulo%1.oga").arg(i));
+        faras(QStringLiteral("nebona%1.oga").arg(i));
+    }
+    faras("noteto_jes.oga");
+    faras("noteto_ne.oga");
+
+    fenestro = new lernilo;
+    fenestro->show();
+    fenestro->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(fenestro));
+}
+
+void tst_sono::init()
+{
+    // A closed message box leaves no window active on the test platform.
+    fenestro->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(fenestro));
+    lSxaltilo = true;
+    lNoteto = false;
+    fenestro->ludilo->setMedia(QMediaContent());
+}
+
+void tst_sono::cleanupTestCase()
+{
+    delete fenestro;
+    delete ujo;
+}
+
+void tst_sono::jesUnuaNeEstasJes()
+{
+    // A fresh start: the last praise is 0, the word "jes".
+    iLastaFojo = 0;
+    for (int i = 0; i < 30; ++i) {
+        iLastaFojo = 0;
+        Jes();
+        QVERIFY2(!ludata().startsWith("sonoj/jes"), qPrintable(ludata()));
+    }
+}
+
+void tst_sono::jesNeRipetasVorton()
+{
+    QString antaua;
+    QSet<QString> vortoj;
+    for (int i = 0; i < 60; ++i) {
+        Jes();
+        const QString vorto = QFileInfo(ludata()).completeBaseName().chopped(1);
+        QVERIFY2(vorto != antaua, qPrintable(vorto));
+        antaua = vorto;
+        vortoj.insert(vorto);
+    }
+    QCOMPARE(vortoj.size(), 6);
+}
+
+void tst_sono::jesPauzoNurKunNotoj()
+{
+    QElapsedTimer t;
+    lSxaltilo = false;
+    lNoteto = false;
+    t.start();
+    Jes();
+    Ne();
+    QVERIFY(t.elapsed() < 1000);
+    QCOMPARE(ludata(), QString());
+
+    lNoteto = true;
+    t.start();
+    Jes();
+    QVERIFY(t.elapsed() >= 1990);
+    QCOMPARE(ludata(), QStringLiteral("sonoj/noteto_jes.oga"));
+
+    // Speech on, notes off: the word comes at once.
+    lSxaltilo = true;
+    lNoteto = false;
+    t.start();
+    Jes();
+    QVERIFY(t.elapsed() < 1000);
+    QVERIFY(!ludata().startsWith("sonoj/noteto"));
+}
+
+void tst_sono::jesSenDosieroTamenShanghasVorton()
+{
+    // With no recordings at all, the word is still drawn anew each time.
+    const QString antaua = mrLoko;
+    mrLoko = ujo->path() + "/neniu/";
+    iLastaFojo = 2;
+    Jes();
+    QVERIFY(iLastaFojo != 2);
+    QCOMPARE(ludata(), QString());
+    mrLoko = antaua;
+}
+
+void tst_sono::neDiras()
+{
+    iLastaFojo = 4;
+    Ne();
+    QVERIFY(ludata().startsWith("sonoj/ne"));
+    QVERIFY(!ludata().startsWith("sonoj/nebona"));
+    QCOMPARE(iLastaFojo, 4);
+}
+
+QString tst_sono::fermasSkatolon(std::function<void()> ago)
+{
+    QString teksto;
+    QTimer::singleShot(0, [&teksto] {
+        if (auto* skatolo = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            teksto = skatolo->text();
+            skatolo->accept();
+        }
+    });
+    ago();
+    return teksto;
+}
+
+void tst_sono::mesagxo_data()
+{
+    QTest::addColumn<int>("eraroj");
+    QTest::addColumn<int>("sukcesoj");
+    QTest::addColumn<bool>("parolo");
+    QTest::addColumn<bool>("notoj");
+    QTest::addColumn<QString>("teksto");
+    QTest::addColumn<QString>("sono");
+
+    QTest::newRow("66%, speech") << 1 << 2 << true << true << "D" << "sonoj/nebona";
+    QTest::newRow("69%, speech") << 31 << 69 << true << false << "D" << "sonoj/nebona";
+    QTest::newRow("70%, speech") << 3 << 7 << true << true << "G" << "sonoj/gratulo";
+    QTest::newRow("70%, notes only") << 3 << 7 << false << true << "G" << "sonoj/noteto_jes";
+    QTest::newRow("66%, notes only") << 1 << 2 << false << true << "D" << "sonoj/noteto_ne";
+    QTest::newRow("70%, silent") << 3 << 7 << false << false << "G" << "";
+    QTest::newRow("69%, silent") << 31 << 69 << false << false << "D" << "";
+}
+
+void tst_sono::mesagxo()
+{
+    QFETCH(int, eraroj);
+    QFETCH(int, sukcesoj);
+    QFETCH(bool, parolo);
+    QFETCH(bool, notoj);
+    QFETCH(QString, teksto);
+    QFETCH(QString, sono);
+    smGratulon = "G";
+    smDenove = "D";
+    lSxaltilo = parolo;
+    lNoteto = notoj;
+    QCOMPARE(fermasSkatolon([=] { Mesagxo(eraroj, sukcesoj); }), teksto);
+    if (sono.isEmpty())
+        QCOMPARE(ludata(), QString());
+    else
+        QVERIFY2(ludata().startsWith(sono), qPrintable(ludata()));
+}
+
+void tst_sono::mp3MinuskligasKajSilentasSenFokuso()
+{
+    mp3("sonoj/Lec01/VIRO.oga");
+    QCOMPARE(fenestro->ludilo->media().request().url().toLocalFile(), mrLoko + "sonoj/lec01/viro.oga");
+
+    fenestro->ludilo->setMedia(QMediaContent());
+    QWidget alia;
+    alia.show();
+    alia.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&alia));
+    mp3("sonoj/lec01/viro.oga");
+    QCOMPARE(ludata(), QString());
+    // The praise is still chosen, and the pause still taken.
+    lNoteto = true;
+    QElapsedTimer t;
+    t.start();
+    Jes();
+    QVERIFY(t.elapsed() >= 1990);
+    QCOMPARE(ludata(), QString());
+    fenestro->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(fenestro));
+}
+
+QTEST_MAIN(tst_sono)
+#include "tst_sono.moc"

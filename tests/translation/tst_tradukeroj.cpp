@@ -1,0 +1,116 @@
+// The files made from the lesson sources are up to date, and the lesson
+// groups of Portuguese read back as the lessons' own texts.
+
+#include "lecionkadro.h"
+#include "testaj_helpoj.h"
+#include "tradukeroj.h"
+
+#include <QFile>
+#include <QLabel>
+#include <QSettings>
+#include <QTabWidget>
+#include <QtTest>
+
+class tst_tradukeroj : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void iniLinioLegighasSame_data();
+    void iniLinioLegighasSame();
+    void kolektasEtikedojn();
+    void tdfAktuala();
+    void portugalaAktuala();
+    void portugalaRedonasLecionojn();
+
+private:
+    QByteArray fonto(const QString& nomo);
+    QTemporaryDir ujo;
+};
+
+void tst_tradukeroj::initTestCase()
+{
+    preparasLokojn(ujo);
+}
+
+QByteArray tst_tradukeroj::fonto(const QString& nomo)
+{
+    QFile f(QStringLiteral(LERNILO_FONTOJ "/resources/tradukoj/") + nomo);
+    if (!f.open(QIODevice::ReadOnly))
+        return QByteArray();
+    return f.readAll();
+}
+
+void tst_tradukeroj::iniLinioLegighasSame_data()
+{
+    QTest::addColumn<QString>("valoro");
+    QTest::newRow("plain") << "Bom dia";
+    QTest::newRow("comma") << "Eu, tu";
+    QTest::newRow("semicolon") << "a; b";
+    QTest::newRow("equals") << "a = b";
+    QTest::newRow("quote") << "o \"n\" final";
+    QTest::newRow("backslash") << "a\\b";
+    QTest::newRow("line break") << "uma\nduas";
+    QTest::newRow("blanks at the ends") << "  meio  ";
+    QTest::newRow("Esperanto and rich text") << "<b>ĉiuj</b> ŝanĝoj";
+    QTest::newRow("at sign first") << "@Variant(x)";
+    QTest::newRow("percent") << "50% certo";
+}
+
+void tst_tradukeroj::iniLinioLegighasSame()
+{
+    QFETCH(QString, valoro);
+    const QString vojo = ujo.path() + "/provo.ini";
+    QFile f(vojo);
+    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write("[Lec01]\r\n" + tradukeroj::iniLinio("Label1", valoro).toUtf8() + "\r\n");
+    f.close();
+    QSettings s(vojo, QSettings::IniFormat);
+    s.setIniCodec("UTF-8");
+    QCOMPARE(s.value("Lec01/Label1").toString(), valoro);
+}
+
+void tst_tradukeroj::kolektasEtikedojn()
+{
+    QWidget pagho;
+    lecionkadro kadro(13, &pagho);
+    const QVector<Tradukero> listo = tradukeroj::deLeciono(kadro.langetoj());
+    QVERIFY(!listo.isEmpty());
+    QCOMPARE(listo.first().numero, 0);
+    QCOMPARE(listo.first().shlosilo, QStringLiteral("Label1"));
+    for (int i = 1; i < listo.size(); ++i)
+        QVERIFY(listo.at(i).numero > listo.at(i - 1).numero);
+}
+
+void tst_tradukeroj::tdfAktuala()
+{
+    QVERIFY2(fonto("tradukendaj.tdf") == tradukeroj::tdf().toUtf8(),
+             "tradukendaj.tdf is out of date: cmake --build build --target tradukeroj");
+}
+
+void tst_tradukeroj::portugalaAktuala()
+{
+    const QByteArray atendo = fonto("partoj/portugala_komuna.trd") + "\r\n" + tradukeroj::lecionajGrupoj().toUtf8();
+    QVERIFY2(fonto("portugala.trd") == atendo,
+             "portugala.trd is out of date: cmake --build build --target tradukeroj");
+}
+
+void tst_tradukeroj::portugalaRedonasLecionojn()
+{
+    // What the generated file holds reads back as the texts of the lessons.
+    QSettings portugala(":/tradukoj/portugala.trd", QSettings::IniFormat);
+    portugala.setIniCodec("UTF-8");
+    for (int n = 1; n <= 13; ++n) {
+        QWidget pagho;
+        lecionkadro kadro(n, &pagho);
+        QTabWidget* langetoj = kadro.langetoj();
+        portugala.beginGroup(langetoj->objectName());
+        for (const Tradukero& t : tradukeroj::deLeciono(langetoj))
+            QCOMPARE(portugala.value(t.shlosilo, "Ne Tradukita").toString(), t.teksto);
+        portugala.endGroup();
+    }
+}
+
+QTEST_MAIN(tst_tradukeroj)
+#include "tst_tradukeroj.moc"

@@ -1,0 +1,108 @@
+#include "tradukeroj.h"
+#include "lecionkadro.h"
+
+#include <QLabel>
+#include <QRegularExpression>
+#include <QTabWidget>
+
+namespace {
+
+const QString crlf = QStringLiteral("\r\n");
+
+QStringList grupo(const char* nomo, std::initializer_list<const char*> shlosiloj)
+{
+    QStringList linioj;
+    linioj << QLatin1Char('[') + QLatin1String(nomo) + QLatin1Char(']');
+    int n = 0;
+    for (const char* s : shlosiloj)
+        linioj << QStringLiteral("%1=%2").arg(n++, 3, 10, QLatin1Char('0')).arg(QLatin1String(s));
+    return linioj;
+}
+
+} // namespace
+
+QVector<Tradukero> tradukeroj::deLeciono(QTabWidget* langetoj)
+{
+    QVector<Tradukero> listo;
+    const QString nomo = langetoj->objectName();
+    const QString prefikso = nomo + QLatin1Char('_');
+    int nombrilo = 0;
+    for (int i = 0; i < langetoj->count(); ++i) {
+        for (QLabel* etikedo : langetoj->widget(i)->findChildren<QLabel*>()) {
+            const QString n = etikedo->objectName();
+            const bool instrukcio = n == QLatin1String("Ekz_Plen2");
+            if (!(n.contains(prefikso) || instrukcio))
+                continue;
+            if (n.contains(QLatin1String("Pan")) || n.contains(QLatin1String("Memo")))
+                continue;
+            QString shlosilo = n;
+            shlosilo.remove(prefikso);
+            if (instrukcio) {
+                const QObject* gepatro = etikedo->parent();
+                const bool b = gepatro && gepatro->objectName().mid(5, 1) == QLatin1String("B");
+                shlosilo = b ? QStringLiteral("Frame42.Label84") : QStringLiteral("TFrame41.Label84");
+            }
+            if (!shlosilo.isEmpty())
+                listo.append({nombrilo, shlosilo, etikedo->text()});
+            ++nombrilo;
+        }
+    }
+    return listo;
+}
+
+QString tradukeroj::iniLinio(const QString& shlosilo, const QString& valoro)
+{
+    const bool citu = valoro.contains(QRegularExpression(QStringLiteral("[,;=\"\\\\\\n\\r\\t]")))
+                      || valoro != valoro.trimmed() || valoro.startsWith(QLatin1Char('@'));
+    if (!citu)
+        return shlosilo + QLatin1Char('=') + valoro;
+    QString v = valoro;
+    v.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
+    v.replace(QLatin1Char('"'), QLatin1String("\\\""));
+    v.replace(QLatin1Char('\n'), QLatin1String("\\n"));
+    v.replace(QLatin1Char('\r'), QLatin1String("\\r"));
+    v.replace(QLatin1Char('\t'), QLatin1String("\\t"));
+    return shlosilo + QStringLiteral("=\"") + v + QLatin1Char('"');
+}
+
+QString tradukeroj::tdf()
+{
+    QList<QStringList> grupoj;
+    grupoj << grupo("Gheneralaj", {"TFrame2.PP_Label1", "TFrame2.PP_Label41", "TFrame3.Label68",
+                                   "TFrame3.Label59", "TFrame1.Label7", "TFrame4.Label83",
+                                   "TFrame5.Label1", "TFrame5.Label6", "Ekz_FrazoKonstruo"});
+    for (int n = 13; n >= 1; --n) {
+        QWidget pagho;
+        lecionkadro kadro(n, &pagho);
+        QStringList linioj;
+        linioj << QLatin1Char('[') + kadro.langetoj()->objectName() + QLatin1Char(']');
+        for (const Tradukero& t : deLeciono(kadro.langetoj()))
+            linioj << QStringLiteral("%1=%2").arg(t.numero, 3, 10, QLatin1Char('0')).arg(t.shlosilo);
+        grupoj << linioj;
+    }
+    grupoj << grupo("Menuo4", {"Label3", "Titolo", "Label200", "Label201", "Label4", "Label5", "Label6",
+                               "Label7", "Label8", "Label9", "Versio", "Label2", "FontKodo", "Nokia"});
+    grupoj << grupo("Konfig", {"Label1", "Label2", "Label3", "Label5", "Label8", "Label4", "Label9", "Label12"});
+    grupoj << grupo("Menuo", {"KioEstas", "KielUzi", "Konfigurado", "Kreditoj", "Eliri", "KieButono"});
+    grupoj << grupo("Mesagxoj", {"smGratulon", "smDenove", "smModifis", "smTondujo", "smDevasHaviKor",
+                                 "smKoverto", "smDisketo", "smPordo", "smLigilo", "smPrononcoNeTrovita"});
+    QStringList partoj;
+    for (const QStringList& g : grupoj)
+        partoj << g.join(crlf) + crlf;
+    return partoj.join(crlf);
+}
+
+QString tradukeroj::lecionajGrupoj()
+{
+    QStringList partoj;
+    for (int n = 1; n <= 13; ++n) {
+        QWidget pagho;
+        lecionkadro kadro(n, &pagho);
+        QStringList linioj;
+        linioj << QLatin1Char('[') + kadro.langetoj()->objectName() + QLatin1Char(']');
+        for (const Tradukero& t : deLeciono(kadro.langetoj()))
+            linioj << iniLinio(t.shlosilo, t.teksto);
+        partoj << linioj.join(crlf) + crlf;
+    }
+    return partoj.join(crlf);
+}
