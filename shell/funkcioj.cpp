@@ -1,13 +1,25 @@
 #include "funkcioj.h"
 #include "lernilo.h"
+#include "klakbutono_nova.h"
+#include "korekta.h"
+#include "label_klakebla.h"
+#include "label_sago.h"
+#include "label_sago_reversa.h"
+#include "neklakebla_nova.h"
 
 #include <QApplication>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
 #include <QMediaPlayer>
+#include <QHash>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QTabWidget>
 #include <QMessageBox>
 #include <QScreen>
+#include <QSettings>
 #include <QUrl>
 
 #include <QCoreApplication>
@@ -49,6 +61,9 @@ QString sKorAdreso;
 bool NeEkzistasTraduko = false;
 bool Tradukilo = false;
 QString EkzercoAkuzativoTrad;
+
+QString sServilo = QStringLiteral("http://" LERNILO_SERVILO);
+QString sEksteraRetejo = QStringLiteral("https://" LERNILO_EKSTERA_RETEJO);
 
 QString smRekomencu, smGratulon, smDenove, smModifis, smTondujo,
     smDevasHaviKor, smDevasSavi, smKoverto, smDisketo, smPordo, smLigilo,
@@ -158,11 +173,10 @@ void mp3(QString dosiero)
 QString helpdosiero(QString kiu)
 {
     if (kiu == QLatin1String("kio"))
-        return QStringLiteral("https://" LERNILO_EKSTERA_RETEJO "/info/") + sLingvoID
-               + QStringLiteral("/ghisdate_pri_esperanto");
+        return sEksteraRetejo + QStringLiteral("/info/") + sLingvoID + QStringLiteral("/ghisdate_pri_esperanto");
     QString pagho = sTradukoDosiero;
     pagho.replace(QLatin1String(".trd"), QLatin1String(".html"));
-    return QStringLiteral("http://" LERNILO_SERVILO "/datumoj/kiel/kiel_") + pagho;
+    return sServilo + QStringLiteral("/datumoj/kiel/kiel_") + pagho;
 }
 
 QString purigas(QString teksto, bool minuskle)
@@ -272,4 +286,158 @@ void Pauzu(int sekundoj)
 
 void Sinkronigu()
 {
+}
+
+bool sekuraDosierNomo(const QString& nomo)
+{
+    return !nomo.isEmpty() && !nomo.contains(QLatin1Char('/')) && !nomo.contains(QLatin1Char('\\'))
+           && !nomo.contains(QLatin1String("..")) && !nomo.contains(QLatin1Char(':'))
+           && !QDir::isAbsolutePath(nomo);
+}
+
+namespace {
+
+// Labels of the exercise forms whose text is common to all exercises of a kind.
+const QHash<QString, QString>& gheneralaj()
+{
+    static const QHash<QString, QString> tabelo = {
+        {QStringLiteral("Ekz_Akuz1"), QStringLiteral("TFrame5.Label6")},
+        {QStringLiteral("Ekz_Akuz2"), QStringLiteral("TFrame5.Label1")},
+        {QStringLiteral("Ekz_Pron1"), QStringLiteral("TFrame2.PP_Label1")},
+        {QStringLiteral("Ekz_Pron2"), QStringLiteral("TFrame2.PP_Label41")},
+        {QStringLiteral("Ekz_Audk1"), QStringLiteral("TFrame3.Label59")},
+        {QStringLiteral("Ekz_Audk2"), QStringLiteral("TFrame3.Label68")},
+        {QStringLiteral("Ekz_Vort1"), QStringLiteral("TFrame4.Label83")},
+        {QStringLiteral("Ekz_Vort2"), QStringLiteral("TFrame1.Label7")},
+        {QStringLiteral("Ekz_Plen1"), QStringLiteral("TFrame4.Label83")},
+        {QStringLiteral("Ekz_FrazoKonstruo"), QStringLiteral("Ekz_FrazoKonstruo")},
+    };
+    return tabelo;
+}
+
+} // namespace
+
+void Trad(QWidget* radiko, QString grupo)
+{
+    QString vojo = savasLoko + sTradukoDosiero;
+    if (!sekuraDosierNomo(sTradukoDosiero) || !QFile::exists(vojo))
+        vojo = QStringLiteral(":/tradukoj/") + sTradukoDosiero;
+    QSettings traduko(vojo, QSettings::IniFormat);
+    traduko.setIniCodec("UTF-8");
+    const QString direkto = traduko.value(QStringLiteral("Traduko/Direkto"), QStringLiteral("LTR")).toString();
+    const bool ltr = direkto == QLatin1String("LTR");
+    const QString ne = QStringLiteral("Ne Tradukita");
+    const QChar ltrMarko(0x200E);
+
+    const QList<QLabel*> etikedoj = radiko->findChildren<QLabel*>();
+    const QPixmap revena(ltr ? QStringLiteral(":ikonoj/sago_revena.png") : QStringLiteral(":ikonoj/sago_revena_RTL.png"));
+    const QPixmap antauen(ltr ? QStringLiteral(":ikonoj/sago_antauen.png") : QStringLiteral(":ikonoj/sago_antauen_RTL.png"));
+    for (label_sago_reversa* sago : radiko->findChildren<label_sago_reversa*>()) {
+        sago->setPixmap(revena);
+        sago->setStyleSheet(ltr ? QStringLiteral("margin-left: 15px;") : QStringLiteral("margin-right: 15px;"));
+    }
+    for (label_sago* sago : radiko->findChildren<label_sago*>()) {
+        sago->setPixmap(antauen);
+        sago->setStyleSheet(QString());
+    }
+    const Qt::Alignment flanko = (ltr ? Qt::AlignLeft : Qt::AlignRight) | Qt::AlignVCenter;
+    for (neklakebla_nova* vorto : radiko->findChildren<neklakebla_nova*>())
+        vorto->setAlignment(flanko);
+    for (klakbutono_nova* vorto : radiko->findChildren<klakbutono_nova*>())
+        vorto->setAlignment(flanko);
+
+    for (QLabel* etikedo : etikedoj) {
+        const QString nomo = etikedo->objectName();
+        const bool klakebla = qobject_cast<label_klakebla*>(etikedo) != nullptr;
+        if (nomo.left(5) == grupo) {
+            if (qobject_cast<neklakebla_nova*>(etikedo) || qobject_cast<klakbutono_nova*>(etikedo)
+                || qobject_cast<korekta*>(etikedo))
+                continue;   // Esperanto
+            const QString shlosilo = klakebla ? nomo.mid(12) : nomo.mid(6);
+            etikedo->setText(traduko.value(grupo + QLatin1Char('/') + shlosilo, ne).toString());
+            continue;
+        }
+        const QString shlosilo = klakebla ? nomo.mid(12) : nomo;
+        if (shlosilo == QLatin1String("Ekz_Plen2")) {
+            // The second gap exercise of a lesson has a "B" after the lesson number.
+            const QObject* gepatro = etikedo->parent();
+            const bool b = gepatro && gepatro->objectName().mid(5, 1) == QLatin1String("B");
+            const QString sh = b ? QStringLiteral("Frame42.Label84") : QStringLiteral("TFrame41.Label84");
+            etikedo->setText(traduko.value(grupo + QLatin1Char('/') + sh, ne).toString());
+        } else if (gheneralaj().contains(shlosilo)) {
+            etikedo->setText(traduko.value(QStringLiteral("Gheneralaj/") + gheneralaj().value(shlosilo), ne).toString());
+        } else if (etikedo->property("tipo").toString() == QLatin1String("esperanta")) {
+            if (direkto == QLatin1String("RTL")) {
+                etikedo->setText(etikedo->text() + ltrMarko);
+                etikedo->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+            } else {
+                etikedo->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
+            }
+        }
+    }
+}
+
+void Adiau()
+{
+    if (!lSxaltilo)
+        return;
+    static const char* const radikoj[] = {"ghis", "revido", "baldau", "adiau"};
+    const QString radiko = QLatin1String(radikoj[random(4)]);
+    QDir ujo(mrLoko + QStringLiteral("sonoj/"), radiko + QLatin1Char('?') + mp3_finajho);
+    if (ujo.count() != 0)
+        mp3(QStringLiteral("sonoj/") + ujo.entryList().value(random(4)));
+}
+
+namespace {
+
+QString agordoVojo()
+{
+    QString loko = savasLoko;
+    if (!loko.endsWith(QLatin1Char('/')))
+        loko += QLatin1Char('/');
+    return loko + QStringLiteral("lernilomelo.ini");
+}
+
+void trairasPaghon(QWidget* pagho, QSettings& agordoj, bool savas)
+{
+    for (QLineEdit* kampo : pagho->findChildren<QLineEdit*>()) {
+        if (savas)
+            agordoj.setValue(kampo->objectName(), kampo->text());
+        else
+            kampo->insert(agordoj.value(kampo->objectName(), QString()).toString());
+    }
+    for (QPlainTextEdit* kampo : pagho->findChildren<QPlainTextEdit*>()) {
+        if (savas)
+            agordoj.setValue(kampo->objectName(), kampo->document()->toPlainText());
+        else
+            kampo->insertPlainText(agordoj.value(kampo->objectName(), QString()).toString());
+    }
+}
+
+} // namespace
+
+void SxargxasEk(QTabWidget* langetoj, bool savas)
+{
+    QSettings agordoj(agordoVojo(), QSettings::IniFormat);
+    agordoj.setIniCodec("UTF-8");
+    agordoj.beginGroup(langetoj->objectName());
+    for (int i = 0; i < langetoj->count(); ++i) {
+        QWidget* pagho = langetoj->widget(i);
+        if (pagho->objectName().left(6) == QLatin1String("Sendas"))
+            trairasPaghon(pagho, agordoj, savas);
+    }
+    agordoj.endGroup();
+}
+
+void SavasEk(QTabWidget* langetoj)
+{
+    QSettings agordoj(agordoVojo(), QSettings::IniFormat);
+    agordoj.setIniCodec("UTF-8");
+    agordoj.beginGroup(langetoj->objectName());
+    for (QWidget* pagho : langetoj->findChildren<QWidget*>()) {
+        if (pagho->objectName().left(6) == QLatin1String("Sendas"))
+            trairasPaghon(pagho, agordoj, true);
+    }
+    agordoj.endGroup();
+    agordoj.sync();
 }

@@ -57,6 +57,11 @@ extern bool NeEkzistasTraduko;
 extern bool Tradukilo;
 extern QString EkzercoAkuzativoTrad;
 
+// Addresses of the course's web server (plain HTTP) and of the outside site
+// that tells what Esperanto is, fixed when the program is built.
+extern QString sServilo;
+extern QString sEksteraRetejo;
+
 // Messages and button words of the current translation.
 extern QString smRekomencu, smGratulon, smDenove, smModifis, smTondujo,
     smDevasHaviKor, smDevasSavi, smKoverto, smDisketo, smPordo, smLigilo,
@@ -101,6 +106,23 @@ void Sinkronigu();
 // Address of a help page: "kio" what Esperanto is, anything else how to use
 // the course, both in the current language.
 QString helpdosiero(QString kiu);
+
+// Relabels one lesson from the current translation file: every label by
+// its object name, the arrows and alignments by the file's direction.
+void Trad(QWidget* radiko, QString grupo);
+
+// A file name from a language list or the settings that may be used inside
+// the writable folder: no folder part, no "..", nothing absolute.
+bool sekuraDosierNomo(const QString& nomo);
+
+// The learner's written answers of a lesson: loaded into the fields of its
+// "Sendas" pages (false) or stored from them (true), in lernilomelo.ini.
+void SxargxasEk(QTabWidget* langetoj, bool savas);
+// The same store, looking for the written pages at any depth.
+void SavasEk(QTabWidget* langetoj);
+
+// The farewell, spoken when the program ends.
+void Adiau();
 
 // A draw from 0 to n-1; 0 for n = 0.
 int random(int n);

@@ -1,10 +1,18 @@
 #include "lernilo.h"
 #include "ui_lernilo.h"
 
+#include "filedownloader.h"
 #include "funkcioj.h"
 #include "lecionkadro.h"
+#include "lingvoelekto.h"
 
 #include <QCloseEvent>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QMessageBox>
+#include <QTime>
+#include <QElapsedTimer>
+#include <QDir>
 #include <QDesktopServices>
 #include <QUrl>
 #include <QFile>
@@ -63,13 +71,13 @@ lernilo::lernilo(QWidget* parent)
     for (int i = 0; i < 13; ++i)
         tradukitaj.append(QString());
     komencakonfiguro();
-    Stilo();
     ui->Paghujo->setCurrentIndex(0);
 }
 
 void lernilo::Stilo()
 {
     setUpdatesEnabled(false);
+    ShanghasTiparStilon();
     QFile stilo(QStringLiteral(":stiloj/lernilo.qss"));
     stilo.open(QIODevice::ReadOnly);
     ui->Paghujo->setStyleSheet(QString::fromUtf8(stilo.readAll()));
@@ -107,6 +115,397 @@ void lernilo::komencakonfiguro()
     iLiterGrandoEo = agordoj.value(QStringLiteral("LiterGrandoEo"), 11).toInt();
     iFenestraStilo = agordoj.value(QStringLiteral("FenestraStilo"), 0).toInt();
     agordoj.endGroup();
+    if (!sekuraDosierNomo(sTradukoDosiero))
+        sTradukoDosiero.clear();   // a damaged setting: choose the language anew
+
+    if (sLingvo.isEmpty() || sTradukoDosiero.isEmpty()) {
+        // First run: the language comes before the window.
+        auto* elekto = new lingvoelekto(nullptr);
+        elekto->exec();
+        iLiterGrando = 11;
+        Traduku();
+        delete elekto;
+        return;
+    }
+    const QFileInfo listo(savasLoko + QStringLiteral("traduklisto.ini"));
+    if (listo.exists() && !listoMalnova(listo.birthTime().date(), QDate::currentDate()))
+        Traduku();
+    else
+        elshutas(QStringLiteral("/datumoj/traduklisto.ini"), QStringLiteral("traduklisto.ini"), "aktualigasTradukon");
+}
+
+bool lernilo::listoMalnova(const QDate& naskigho, const QDate& hodiau)
+{
+    // Where the file system keeps no birth time the date is invalid, and so old.
+    return !naskigho.isValid() || naskigho.addDays(7) < hodiau;
+}
+
+void lernilo::elshutas(const QString& vojo, const QString& nomo, const char* poste)
+{
+    elshutilo = new FileDownloader(QUrl(sServilo + vojo), nomo, this);
+    connect(elshutilo, SIGNAL(downloaded()), this, QByteArray(QByteArray("1") + poste + "()").constData());
+}
+
+void lernilo::aktualigasTradukon()
+{
+    QSettings traduko(savasLoko + sTradukoDosiero, QSettings::IniFormat);
+    traduko.setIniCodec("UTF-8");
+    traduko.beginGroup(QStringLiteral("Traduko"));
+    sLingvoID = traduko.value(QStringLiteral("LingvoID"), QStringLiteral("en")).toString();
+    const QDate loka = QDate::fromString(traduko.value(QStringLiteral("Dato"), QStringLiteral("01.01.2000")).toString(),
+                                         QStringLiteral("dd.MM.yyyy"));
+    traduko.endGroup();
+
+    const QString listoVojo = savasLoko + QStringLiteral("traduklisto.ini");
+    if (!QFile::exists(listoVojo)) {
+        Traduku();
+        return;
+    }
+    QSettings listo(listoVojo, QSettings::IniFormat);
+    listo.setIniCodec("UTF-8");
+    bool trovita = false;
+    for (int i = 0; i < 200 && !trovita; ++i) {
+        listo.beginGroup(QString::number(i));
+        if (sLingvoID.trimmed() == listo.value(QStringLiteral("LingvoID"), QStringLiteral("??")).toString().trimmed())
+            trovita = true;
+        else
+            listo.endGroup();
+    }
+    if (!trovita) {
+        Traduku();
+        return;
+    }
+    const QDate malproksima = QDate::fromString(listo.value(QStringLiteral("Dato"), QStringLiteral("01.01.2000")).toString(),
+                                                QStringLiteral("dd.MM.yyyy"));
+    listo.endGroup();
+    if (malproksima.isValid() && loka.isValid() ? malproksima > loka : false)
+        elshutas(QStringLiteral("/datumoj/tradukoj/") + sTradukoDosiero, sTradukoDosiero, "Traduku");
+    else
+        Traduku();
+}
+
+void lernilo::Traduku()
+{
+    QString vojo = savasLoko + sTradukoDosiero;
+    if (!sekuraDosierNomo(sTradukoDosiero) || !QFile::exists(vojo)) {
+        vojo = QStringLiteral(":/tradukoj/") + sTradukoDosiero;
+        if (sTradukoDosiero.isEmpty() || !QFile::exists(vojo)) {
+            vojo = QStringLiteral(":/tradukoj/angla.trd");
+            if (QFile::exists(vojo)) {
+                QMessageBox averto(QMessageBox::Warning, QString(),
+                    QStringLiteral("The translation file ") + sTradukoDosiero
+                        + QStringLiteral(" could not be found. English translation will be used as default."),
+                    QMessageBox::Ok, QApplication::activeWindow());
+                averto.exec();
+                sTradukoDosiero = QStringLiteral("angla.trd");
+                sLingvo = QStringLiteral("English — Angla");
+            } else {
+                QMessageBox eraro(QMessageBox::Critical, QString(),
+                    QStringLiteral("The translation file ") + sTradukoDosiero
+                        + QStringLiteral(" could not be found. The English translation file (angla.trd) could not be found either. \n"
+                                         "Please check the path or reinstall Lernilo. \nProgram will quit now."),
+                    QMessageBox::Ok, QApplication::activeWindow());
+                eraro.exec();
+                NeEkzistasTraduko = true;
+                QCoreApplication::exit(1);
+            }
+        }
+    }
+
+    QSettings traduko(vojo, QSettings::IniFormat);
+    traduko.setIniCodec("UTF-8");
+    const QString ne = QStringLiteral("Ne Tradukita");
+    traduko.beginGroup(QStringLiteral("Traduko"));
+    sTradukinto = traduko.value(QStringLiteral("Tradukinto"), QString()).toString();
+    sLingvoID = traduko.value(QStringLiteral("LingvoID"), QStringLiteral("en")).toString();
+    traduko.endGroup();
+
+    traduko.beginGroup(QStringLiteral("Mesagxoj"));
+    const std::pair<QString*, const char*> mesaghoj[] = {
+        {&smRekomencu, "smRekomencu"}, {&smGratulon, "smGratulon"}, {&smDenove, "smDenove"},
+        {&smModifis, "smModifis"}, {&smTondujo, "smTondujo"}, {&smDevasHaviKor, "smDevasHaviKor"},
+        {&smDevasSavi, "smDevasSavi"}, {&smKoverto, "smKoverto"}, {&smDisketo, "smDisketo"},
+        {&smPordo, "smPordo"}, {&smLigilo, "smLigilo"}, {&Antauen, "Antauen"}, {&Nuligi, "Nuligi"},
+        {&smNeSono, "smNeSono"},
+    };
+    for (const auto& m : mesaghoj)
+        *m.first = traduko.value(QLatin1String(m.second), ne).toString();
+    traduko.endGroup();
+
+    Direkto = traduko.value(QStringLiteral("Traduko/Direkto"), QStringLiteral("LTR")).toString();
+    QGuiApplication::setLayoutDirection(Direkto == QLatin1String("LTR") ? Qt::LeftToRight : Qt::RightToLeft);
+
+    traduko.beginGroup(QStringLiteral("Menuo"));
+    const std::pair<const char*, QList<QLabel*>> menuo[] = {
+        {"KioEstas", {ui->label_Kio}},
+        {"KielUzi", {ui->label_Kiel}},
+        {"Konfigurado", {ui->label_Konfiguroj, ui->Label_Konfigurado}},
+        {"Kreditoj", {ui->label_Kreditoj, ui->Label_Kreditoj}},
+        {"Eliri", {ui->label_Eliri}},
+        {"KieButono", {ui->label_Kie}},
+    };
+    for (const auto& m : menuo) {
+        const QString teksto = traduko.value(QLatin1String(m.first), ne).toString();
+        for (QLabel* etikedo : m.second)
+            etikedo->setText(teksto);
+    }
+    traduko.endGroup();
+
+    traduko.beginGroup(QStringLiteral("Konfig"));
+    for (QLabel* etikedo : ui->Pagho_Konfigurado->findChildren<QLabel*>()) {
+        if (etikedo->objectName().left(6) == QLatin1String("Konfig"))
+            etikedo->setText(traduko.value(etikedo->objectName().mid(7), ne).toString());
+    }
+    for (QAbstractButton* butono : {static_cast<QAbstractButton*>(ui->radioButton), static_cast<QAbstractButton*>(ui->radioButton_2),
+                                    static_cast<QAbstractButton*>(ui->radioButton_3)})
+        butono->setText(butono->text() + QChar(0x200E));
+    traduko.endGroup();
+
+    traduko.beginGroup(QStringLiteral("Menuo4"));
+    for (QLabel* etikedo : ui->Kredit->findChildren<QLabel*>()) {
+        if (etikedo->objectName().left(6) == QLatin1String("Kredit"))
+            etikedo->setText(traduko.value(etikedo->objectName().mid(7), ne).toString());
+    }
+    traduko.endGroup();
+
+    ui->Tradukinto->setText(sTradukinto);
+    ListigasLingvojn();
+}
+
+void lernilo::ListigasLingvojn()
+{
+    const QString demando = QStringLiteral("?????????");
+    const QString listoVojo = savasLoko + QStringLiteral("traduklisto.ini");
+    QSettings listo(listoVojo, QSettings::IniFormat);
+    listo.setIniCodec("UTF-8");
+    if (QFile::exists(listoVojo)
+        && listo.value(QStringLiteral("0/LingvoID"), QStringLiteral("??")).toString() != QLatin1String("??")) {
+        for (int i = 0; i < 200; ++i) {
+            listo.beginGroup(QString::number(i));
+            const QStringList vico = {listo.value(QStringLiteral("LingvoID"), QStringLiteral("??")).toString(),
+                                      listo.value(QStringLiteral("Lingvo"), demando).toString(),
+                                      listo.value(QStringLiteral("DosierNomo"), demando).toString(),
+                                      listo.value(QStringLiteral("Dato"), demando).toString()};
+            listo.endGroup();
+            if (vico.at(0) == QLatin1String("??"))
+                break;
+            if (!sekuraDosierNomo(vico.at(2)))
+                continue;   // never a file outside the writable folder
+            lingvoListo.append(vico);
+            ui->Lingvo->addItem(vico.at(1));
+        }
+    }
+    for (QDirIterator it(QStringLiteral(":/tradukoj")); it.hasNext();) {
+        it.next();
+        const QString nomo = it.fileName();
+        if (!nomo.endsWith(QLatin1String("trd")))
+            continue;
+        QSettings dosiero(QStringLiteral(":/tradukoj/") + nomo, QSettings::IniFormat);
+        dosiero.setIniCodec("UTF-8");
+        dosiero.beginGroup(QStringLiteral("Traduko"));
+        const QStringList vico = {dosiero.value(QStringLiteral("LingvoID"), QStringLiteral("??")).toString(),
+                                  dosiero.value(QStringLiteral("Lingvo"), demando).toString(),
+                                  nomo,
+                                  dosiero.value(QStringLiteral("Dato"), demando).toString()};
+        lingvoListo.append(vico);
+        ui->Lingvo->addItem(vico.at(1));
+    }
+    Konfiguru();
+}
+
+void lernilo::Konfiguru()
+{
+    {
+        const QSignalBlocker blokilo(ui->Lingvo);
+        ui->Lingvo->setCurrentIndex(ui->Lingvo->findData(sLingvo, Qt::DisplayRole, Qt::MatchCaseSensitive));
+    }
+    if (iSistemo == 0)
+        ui->radioButton->setChecked(true);
+    else if (iSistemo == 1)
+        ui->radioButton_2->setChecked(true);
+    else
+        ui->radioButton_3->setChecked(true);
+    ui->Cxapeligo->setChecked(lCxapeligo);
+    ui->Parolo->setChecked(lSxaltilo);
+    ui->Noteto->setChecked(lNoteto);
+
+    {
+        const QSignalBlocker b1(ui->Tiparo), b2(ui->TiparoEo), b3(ui->LiterGrando),
+            b4(ui->LiterGrandoEo), b5(ui->glitilo_eo), b6(ui->glitilo_traduko);
+        ui->Tiparo->setCurrentFont(QFont(sTiparo));
+        ui->TiparoEo->setCurrentFont(QFont(sTiparoEo));
+        ui->LiterGrando->setValue(iLiterGrando);
+        ui->glitilo_traduko->setValue(iLiterGrando);
+        ui->LiterGrandoEo->setValue(iLiterGrandoEo);
+        ui->glitilo_eo->setValue(iLiterGrandoEo);
+        ui->tekstoEo->setStyleSheet(specimenStilo(sTiparoEo, iLiterGrandoEo));
+        ui->tekstoLingvo->setStyleSheet(specimenStilo(sTiparo, iLiterGrando));
+    }
+    ui->tekstoLingvo->setText(sLingvo);
+    QCoreApplication::processEvents();
+    Stilo();
+}
+
+QString lernilo::specimenStilo(const QString& tiparo, int grando)
+{
+    return QStringLiteral("font-family: \"") + tiparo + QStringLiteral("\"; font-size: ")
+           + QString::number(ghustigas_tiparon(grando)) + QStringLiteral("pt;");
+}
+
+void lernilo::ShanghasTiparStilon()
+{
+    const int eo = ghustigas_tiparon(iLiterGrandoEo);
+    const int lingvo = ghustigas_tiparon(iLiterGrando);
+    QFont tiparo(sTiparo);
+    tiparo.setPointSize(lingvo);
+    QApplication::setFont(tiparo);
+    const int lingvo125 = int(lingvo * 1.25);
+    const int eo125 = int(eo * 1.25);
+    const QString stilo =
+        QStringLiteral("myLabel#label_Kie, #label_Kreditoj, #label_Kio, #label_Konfiguroj, #label_Kiel, #label_Eliri { font-size: ")
+        + QString::number(lingvo - 1) + QStringLiteral("pt; font-weight: bold; } ")
+        + QStringLiteral("titolo { font-size: ") + QString::number(lingvo125)
+        + QStringLiteral("pt; font-weight: bold; min-height: 1.2em;} ")
+        + QStringLiteral("QLabel[lingvo=\"eo\"], klakbutono_nova, neklakebla_nova, korekta, cx_edit, cx_plainedit, cx_edit_minuskla { font-family: \"")
+        + sTiparoEo + QStringLiteral("\";  font-size: ") + QString::number(eo) + QStringLiteral("pt;} ")
+        + QStringLiteral("titolo[lingvo=\"eo\"], QPushButton[tipo=\"speciala\"], QLabel[tipo=\"afikso\"]  { font-family: \"")
+        + sTiparoEo + QStringLiteral("\"; font-size: ") + QString::number(eo125)
+        + QStringLiteral("pt; font-weight: bold; min-height: 1.2em;} ");
+    ui->centralWidget->setStyleSheet(stilo);
+}
+
+void lernilo::ShanghasTiparon()
+{
+    QApplication::setOverrideCursor(Qt::WaitCursor);
+    QCoreApplication::processEvents();
+    ShanghasTiparStilon();
+    QCoreApplication::processEvents();
+    QApplication::restoreOverrideCursor();
+}
+
+void lernilo::shanghitajKonfiguroj()
+{
+    const int sistemo = ui->radioButton_3->isChecked() ? 2 : ui->radioButton_2->isChecked() ? 1 : 0;
+    const bool shanghita = ui->Lingvo->currentText() != sLingvo || ui->Tiparo->currentText() != sTiparo
+                           || ui->TiparoEo->currentText() != sTiparoEo || ui->LiterGrando->value() != iLiterGrando
+                           || ui->LiterGrandoEo->value() != iLiterGrandoEo || sistemo != iSistemo;
+    ui->shanghasKonfigurojn->setEnabled(shanghita);
+}
+
+void lernilo::on_Lingvo_activated(int)
+{
+    ui->tekstoLingvo->setText(ui->Lingvo->currentText());
+    shanghitajKonfiguroj();
+}
+
+void lernilo::on_Tiparo_currentIndexChanged(QString tiparo)
+{
+    ui->tekstoLingvo->setStyleSheet(specimenStilo(tiparo, ui->LiterGrando->value()));
+    shanghitajKonfiguroj();
+}
+
+void lernilo::on_TiparoEo_currentIndexChanged(QString tiparo)
+{
+    ui->tekstoEo->setStyleSheet(specimenStilo(tiparo, ui->LiterGrandoEo->value()));
+    shanghitajKonfiguroj();
+}
+
+void lernilo::on_LiterGrando_valueChanged(int grando)
+{
+    ui->tekstoLingvo->setStyleSheet(specimenStilo(ui->Tiparo->currentText(), grando));
+    {
+        const QSignalBlocker blokilo(ui->glitilo_traduko);
+        ui->glitilo_traduko->setValue(grando);
+    }
+    shanghitajKonfiguroj();
+}
+
+void lernilo::on_LiterGrandoEo_valueChanged(int grando)
+{
+    ui->tekstoEo->setStyleSheet(specimenStilo(ui->TiparoEo->currentText(), grando));
+    {
+        const QSignalBlocker blokilo(ui->glitilo_eo);
+        ui->glitilo_eo->setValue(grando);
+    }
+    shanghitajKonfiguroj();
+}
+
+void lernilo::on_glitilo_traduko_valueChanged(int valoro)
+{
+    ui->LiterGrando->setValue(valoro);
+}
+
+void lernilo::on_glitilo_eo_valueChanged(int valoro)
+{
+    ui->LiterGrandoEo->setValue(valoro);
+}
+
+void lernilo::on_Cxapeligo_toggled(bool b) { lCxapeligo = b; }
+void lernilo::on_Parolo_toggled(bool b) { lSxaltilo = b; }
+void lernilo::on_Noteto_toggled(bool b) { lNoteto = b; }
+
+void lernilo::on_shanghasKonfigurojn_clicked()
+{
+    iSistemo = ui->radioButton_3->isChecked() ? 2 : ui->radioButton_2->isChecked() ? 1 : 0;
+
+    if (ui->Lingvo->currentText() != sLingvo) {
+        const int vico = ui->Lingvo->currentIndex();
+        if (vico >= 0 && vico < lingvoListo.size()) {
+            sLingvo = lingvoListo.at(vico).at(1);
+            sTradukoDosiero = lingvoListo.at(vico).at(2);
+            elshutas(QStringLiteral("/datumoj/tradukoj/") + sTradukoDosiero, sTradukoDosiero, "Traduku");
+        }
+    }
+
+    bool shanghita = false;
+    if (ui->Tiparo->currentText() != sTiparo) {
+        sTiparo = ui->Tiparo->currentText();
+        shanghita = true;
+    }
+    if (ui->TiparoEo->currentText() != sTiparoEo) {
+        sTiparoEo = ui->TiparoEo->currentText();
+        shanghita = true;
+    }
+    if (ui->LiterGrando->value() != iLiterGrando) {
+        iLiterGrando = ui->LiterGrando->value();
+        shanghita = true;
+    }
+    if (ui->LiterGrandoEo->value() != iLiterGrandoEo) {
+        iLiterGrandoEo = ui->LiterGrandoEo->value();
+        shanghita = true;
+    }
+    if (shanghita)
+        ShanghasTiparStilon();
+    ui->shanghasKonfigurojn->setEnabled(false);
+    ui->shanghasKonfigurojn->hide();
+    ui->Hejmo->click();
+}
+
+QString lernilo::salutoRadiko(int horo, int unuaHazardo, int duaHazardo)
+{
+    if (unuaHazardo == 0)
+        return QStringLiteral("saluton");
+    if (horo >= 16 && horo <= 20)
+        return QStringLiteral("vespero");
+    if (horo >= 5 && horo <= 11)
+        return duaHazardo != 0 ? QStringLiteral("tagon") : QStringLiteral("matenon");
+    if (horo >= 12 && horo <= 15)
+        return QStringLiteral("tagon");
+    return QStringLiteral("nokton");
+}
+
+void lernilo::Saluton()
+{
+    if (!lSxaltilo)
+        return;
+    const int unua = random(2);
+    const QString radiko = salutoRadiko(QTime::currentTime().hour(), unua, random(2));
+    QDir ujo(mrLoko + QStringLiteral("sonoj/"), radiko + QLatin1Char('?') + mp3_finajho);
+    if (ujo.count() == 0)
+        return;
+    const QString vojo = mrLoko + (QStringLiteral("sonoj/") + ujo.entryList().value(random(4))).toLower();
+    ludilo->setMedia(QMediaContent(sSistemo == QLatin1String("android") ? QUrl(vojo) : QUrl::fromLocalFile(vojo)));
+    ludilo->play();
 }
 
 void lernilo::SavasKonfig()
@@ -152,6 +551,10 @@ void lernilo::ShanghasPaghon(QString pagho, QFrame* leciono)
         pagh->setStyleSheet(sSistemo == QLatin1String("osx")
             ? QStringLiteral("QTabWidget::pane {top: -1em;}   QTabBar::tab {height: 0px; width: 0px;} QTabWidget::tab-bar {height: 0px; width: 0px;}")
             : QStringLiteral("QTabBar::tab {height: 0px; width: 0px;} QTabWidget::tab-bar {height: 0px; width: 0px;}"));
+        for (QTabWidget* langetoj : pagh->findChildren<QTabWidget*>()) {
+            if (langetoj->objectName().startsWith(QLatin1String("Lec")) || langetoj->objectName() == QLatin1String("Fina_Ekzameno"))
+                SxargxasEk(langetoj, false);
+        }
         // Pages are laid out when first shown, not all at once now.
         for (QScrollArea* rulumo : pagh->findChildren<QScrollArea*>())
             rulumo->setWidgetResizable(false);
@@ -162,6 +565,11 @@ void lernilo::ShanghasPaghon(QString pagho, QFrame* leciono)
     const QList<QTabWidget*> abas = pagh->findChildren<QTabWidget*>();
     if (!abas.isEmpty()) {
         QTabWidget* langetoj = abas.first();
+        const int numero = pagho.right(2).toInt();
+        if (numero >= 1 && numero <= 13 && tradukitaj.at(numero - 1) != sTradukoDosiero) {
+            Trad(pagh, langetoj->objectName());
+            tradukitaj[numero - 1] = sTradukoDosiero;
+        }
         const int nuna = langetoj->currentIndex();
         if (nuna == 0 || (nuna == LastaPagxo && ui->Paghujo->currentIndex() == LastaLeciono)) {
             // No currentChanged will come for these: lay the page out here.
@@ -366,7 +774,27 @@ void lernilo::closeEvent(QCloseEvent* evento)
         evento->ignore();
         return;
     }
+    Adiau();
+    for (QTabWidget* langetoj : ui->Paghujo->findChildren<QTabWidget*>()) {
+        if (langetoj->objectName().startsWith(QLatin1String("Lec")) || langetoj->objectName() == QLatin1String("Fina_Ekzameno"))
+            SxargxasEk(langetoj, true);
+    }
     SavasKonfig();
+    QString provizora = QDir::tempPath();
+    if (!provizora.endsWith(QLatin1Char('/')))
+        provizora += QLatin1Char('/');
+    for (int i = 0; i < 4; ++i)
+        QFile::remove(provizora + QStringLiteral("prononco%1.raw").arg(i));
+    if (lSxaltilo) {
+        // Let the farewell finish; a sound that never ends must not keep the
+        // program from closing.
+        QElapsedTimer atendo;
+        atendo.start();
+        while ((ludilo->mediaStatus() == QMediaPlayer::LoadingMedia || ludilo->state() == QMediaPlayer::PlayingState
+                || ludilo->mediaStatus() == QMediaPlayer::BufferingMedia)
+               && atendo.elapsed() < 15000)
+            QCoreApplication::processEvents();
+    }
     evento->accept();
 }
 

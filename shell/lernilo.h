@@ -3,6 +3,7 @@
 
 #include <QList>
 #include <QMainWindow>
+#include <QDate>
 #include <QStringList>
 
 class QFrame;
@@ -39,6 +40,26 @@ public slots:
     void Centrigas_Fenestron();
     void SavasKonfig();
     void Stilo();
+    void Traduku();
+    void ListigasLingvojn();
+    void Konfiguru();
+    void ShanghasTiparStilon();
+    void ShanghasTiparon();
+    void shanghitajKonfiguroj();
+    void aktualigasTradukon();
+    void Saluton();
+
+    void on_shanghasKonfigurojn_clicked();
+    void on_Lingvo_activated(int indekso);
+    void on_Tiparo_currentIndexChanged(QString tiparo);
+    void on_TiparoEo_currentIndexChanged(QString tiparo);
+    void on_LiterGrando_valueChanged(int grando);
+    void on_LiterGrandoEo_valueChanged(int grando);
+    void on_glitilo_traduko_valueChanged(int valoro);
+    void on_glitilo_eo_valueChanged(int valoro);
+    void on_Cxapeligo_toggled(bool b);
+    void on_Parolo_toggled(bool b);
+    void on_Noteto_toggled(bool b);
 
     void on_Leciono1_clicked();
     void on_Leciono2_clicked();
@@ -84,8 +105,17 @@ protected:
     void closeEvent(QCloseEvent* evento) override;
     void showEvent(QShowEvent* evento) override;
 
+public:
+    // The language list is refreshed when it is older than a week.
+    static bool listoMalnova(const QDate& naskigho, const QDate& hodiau);
+    // The greeting's phrase for an hour of the day and two draws of 0 or 1.
+    static QString salutoRadiko(int horo, int unuaHazardo, int duaHazardo);
+    // The style of a sample text: the font and its scaled size.
+    static QString specimenStilo(const QString& tiparo, int grando);
+
 private:
     void komencakonfiguro();
+    void elshutas(const QString& vojo, const QString& nomo, const char* poste);
     void malfermasLecionon(int numero);
 
     Ui::lernilo* ui;

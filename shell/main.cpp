@@ -24,5 +24,6 @@ int main(int argc, char** argv)
     fenestro.setWindowFlag(Qt::MaximizeUsingFullscreenGeometryHint, false);
     fenestro.setAttribute(Qt::WA_ContentsMarginsRespectsSafeArea, false);
     fenestro.show();
+    fenestro.Saluton();
     return app.exec();
 }

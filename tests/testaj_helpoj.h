@@ -3,7 +3,14 @@
 
 #include "funkcioj.h"
 
+#include <QAbstractButton>
+#include <QApplication>
+#include <QDialog>
 #include <QDir>
+#include <QMessageBox>
+#include <QTimer>
+#include <QFile>
+#include <QSettings>
 #include <QTemporaryDir>
 
 // Points the program's folders at a fresh temporary folder, as main() would
@@ -16,6 +23,52 @@ inline void preparasLokojn(const QTemporaryDir& ujo)
     savasLoko = ujo.path() + QStringLiteral("/skribebla/");
     QDir().mkpath(mrLoko);
     QDir().mkpath(savasLoko);
+    sServilo = QStringLiteral("http://127.0.0.1:9");   // nothing listens there
+    sTradukoDosiero.clear();
+    sLingvo.clear();
+}
+
+// A learner who chose English before and whose language list is fresh, so
+// that the main window starts without the first-run dialog or a download.
+inline void preparasLerninton(const QTemporaryDir& ujo, const QString& dosiero = QStringLiteral("angla.trd"),
+                              const QString& lingvo = QString::fromUtf8("English — angla"))
+{
+    preparasLokojn(ujo);
+    QSettings agordoj(savasLoko + QStringLiteral("lernilomelo.ini"), QSettings::IniFormat);
+    agordoj.setIniCodec("UTF-8");
+    agordoj.setValue(QStringLiteral("Gxenerala/Lingvo"), lingvo);
+    agordoj.setValue(QStringLiteral("Gxenerala/Dosiero"), dosiero);
+    agordoj.sync();
+    QFile listo(savasLoko + QStringLiteral("traduklisto.ini"));
+    listo.open(QIODevice::WriteOnly);
+}
+
+// Clicks the named button of the next modal dialog as soon as it shows (the
+// dialogs run their own event loop, so the test cannot click them directly).
+inline void klakasEnDialogo(const char* butono)
+{
+    QTimer::singleShot(20, [butono] {
+        auto* dialogo = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+        QAbstractButton* b = dialogo ? dialogo->findChild<QAbstractButton*>(QLatin1String(butono)) : nullptr;
+        if (b)
+            b->click();
+        else
+            klakasEnDialogo(butono);
+    });
+}
+
+// Closes the next message box as soon as it shows, and keeps its text.
+inline void akceptasMesaghon(QString* teksto = nullptr)
+{
+    QTimer::singleShot(20, [teksto] {
+        if (auto* skatolo = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
+            if (teksto)
+                *teksto = skatolo->text();
+            skatolo->accept();
+        } else {
+            akceptasMesaghon(teksto);
+        }
+    });
 }
 
 #endif

@@ -52,11 +52,13 @@ QVector<Tradukero> tradukeroj::deLeciono(QTabWidget* langetoj)
 
 QString tradukeroj::iniLinio(const QString& shlosilo, const QString& valoro)
 {
-    const bool citu = valoro.contains(QRegularExpression(QStringLiteral("[,;=\"\\\\\\n\\r\\t]")))
-                      || valoro != valoro.trimmed() || valoro.startsWith(QLatin1Char('@'));
+    // A leading "@" marks a typed value to the reader; "@@" is a plain one.
+    const QString valoro2 = valoro.startsWith(QLatin1Char('@')) ? QLatin1Char('@') + valoro : valoro;
+    const bool citu = valoro2.contains(QRegularExpression(QStringLiteral("[,;=\"\\\\\\n\\r\\t]")))
+                      || valoro2 != valoro2.trimmed();
     if (!citu)
-        return shlosilo + QLatin1Char('=') + valoro;
-    QString v = valoro;
+        return shlosilo + QLatin1Char('=') + valoro2;
+    QString v = valoro2;
     v.replace(QLatin1Char('\\'), QLatin1String("\\\\"));
     v.replace(QLatin1Char('"'), QLatin1String("\\\""));
     v.replace(QLatin1Char('\n'), QLatin1String("\\n"));

@@ -50,7 +50,7 @@ void tst_klakbutono_nova::sonoVojo()
 void tst_klakbutono_nova::premoLudas()
 {
     QTemporaryDir ujo;
-    preparasLokojn(ujo);
+    preparasLerninton(ujo);
     lernilo fenestro;
     fenestro.show();
     fenestro.activateWindow();

@@ -52,7 +52,7 @@ private:
 void tst_lernilo::init()
 {
     ujo = new QTemporaryDir;
-    preparasLokojn(*ujo);
+    preparasLerninton(*ujo);
     fenestro = new lernilo;
 }
 
@@ -321,7 +321,8 @@ void tst_lernilo::fermoElLecionoIrasHejmen()
     QApplication::sendEvent(fenestro, &evento);
     QVERIFY(!evento.isAccepted());
     QCOMPARE(fenestro->findChild<QStackedWidget*>("Paghujo")->currentIndex(), 0);
-    QVERIFY(!QFile::exists(savasLoko + "lernilomelo.ini"));
+    QSettings agordoj(savasLoko + "lernilomelo.ini", QSettings::IniFormat);
+    QVERIFY(!agordoj.contains("Gxenerala/LastaLeciono"));
 }
 
 void tst_lernilo::fermoElHejmoKonservas()

@@ -53,7 +53,7 @@ void tst_sono::faras(const QString& nomo)
 void tst_sono::initTestCase()
 {
     ujo = new QTemporaryDir;
-    preparasLokojn(*ujo);
+    preparasLerninton(*ujo);
     mrLoko = ujo->path() + "/Medioj/";   // a capital that must stay
     QDir().mkpath(mrLoko + "sonoj");
     for (const char* vorto : {"jes", "trebone", "bonege", "prave", "trafe", "korekte", "ne"}) {

@@ -1,0 +1,247 @@
+// Settings: the file read at start and written at close, the settings page
+// with its one apply button, the greeting by the hour, and closing.
+
+#include "lernilo.h"
+#include "testaj_helpoj.h"
+
+#include <QAbstractButton>
+#include <QCloseEvent>
+#include <QComboBox>
+#include <QFontComboBox>
+#include <QLabel>
+#include <QSignalSpy>
+#include <QSlider>
+#include <QSpinBox>
+#include <QStackedWidget>
+#include <QtTest>
+
+class tst_agordoj : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void defaultojSenDosiero();
+    void legasKajSkribasChiujn();
+    void aplikoEbligataKajMalebligata();
+    void glitiloKajNombrujoSamtempe();
+    void tiparojAtingasStilon();
+    void salutoLauHoro_data();
+    void salutoLauHoro();
+    void fermoElHejmoForigasRegistrajhojn();
+
+private:
+    lernilo* malfermas();
+    template <typename T> T* trovas(const char* nomo) { return fenestro->findChild<T*>(nomo); }
+
+    QTemporaryDir* ujo = nullptr;
+    lernilo* fenestro = nullptr;
+};
+
+void tst_agordoj::init()
+{
+    ujo = new QTemporaryDir;
+    preparasLerninton(*ujo);
+}
+
+void tst_agordoj::cleanup()
+{
+    delete fenestro;
+    fenestro = nullptr;
+    delete ujo;
+}
+
+lernilo* tst_agordoj::malfermas()
+{
+    fenestro = new lernilo;
+    return fenestro;
+}
+
+void tst_agordoj::defaultojSenDosiero()
+{
+    QFile::remove(savasLoko + "lernilomelo.ini");
+    // The first-run dialog comes; the learner takes what it offers.
+    klakasEnDialogo("pushButton");
+    malfermas();
+    QCOMPARE(iLiterGrando, 11);
+    QCOMPARE(iLiterGrandoEo, 11);
+    QCOMPARE(sTiparo, QStringLiteral("DejaVu Sans"));
+    QCOMPARE(sTiparoEo, QStringLiteral("DejaVu Sans"));
+    QCOMPARE(lCxapeligo, true);
+    QCOMPARE(lSxaltilo, true);
+    QCOMPARE(lNoteto, true);
+    QCOMPARE(iSistemo, 0);
+    QCOMPARE(LastaLeciono, 1);
+    QCOMPARE(LastaPagxo, 0);
+    QVERIFY(!sTradukoDosiero.isEmpty());
+}
+
+void tst_agordoj::legasKajSkribasChiujn()
+{
+    {
+        QSettings a(savasLoko + "lernilomelo.ini", QSettings::IniFormat);
+        a.setIniCodec("UTF-8");
+        a.beginGroup("Gxenerala");
+        a.setValue("LiterGrando", 14);
+        a.setValue("Tiparo", "Liberation Serif");
+        a.setValue("TiparoEo", "DejaVu Serif");
+        a.setValue("Cxapeligo", false);
+        a.setValue("Sistemo", 2);
+        a.setValue("LastaLeciono", 7);
+        a.setValue("LastaPagxo", 5);
+        a.setValue("Sxaltilo", false);
+        a.setValue("Noteto", false);
+        a.setValue("LiterGrandoEo", 15);
+        a.setValue("FenestraStilo", 3);
+    }
+    malfermas();
+    QCOMPARE(iLiterGrando, 14);
+    QCOMPARE(sTiparo, QStringLiteral("Liberation Serif"));
+    QCOMPARE(sTiparoEo, QStringLiteral("DejaVu Serif"));
+    QCOMPARE(lCxapeligo, false);
+    QCOMPARE(iSistemo, 2);
+    QCOMPARE(LastaLeciono, 7);
+    QCOMPARE(LastaPagxo, 5);
+    QCOMPARE(lSxaltilo, false);
+    QCOMPARE(lNoteto, false);
+    QCOMPARE(iLiterGrandoEo, 15);
+    QCOMPARE(iFenestraStilo, 3);
+    // The page shows what was read.
+    QCOMPARE(trovas<QSpinBox>("LiterGrando")->value(), 14);
+    QCOMPARE(trovas<QSlider>("glitilo_eo")->value(), 15);
+    QVERIFY(trovas<QAbstractButton>("radioButton_3")->isChecked());
+    QVERIFY(!trovas<QAbstractButton>("Cxapeligo")->isChecked());
+
+    iSistemo = 1;
+    lCxapeligo = true;
+    fenestro->SavasKonfig();
+    QSettings b(savasLoko + "lernilomelo.ini", QSettings::IniFormat);
+    b.beginGroup("Gxenerala");
+    QCOMPARE(b.childKeys().size(), 13);
+    QCOMPARE(b.value("Sistemo").toInt(), 1);
+    QCOMPARE(b.value("Cxapeligo").toBool(), true);
+    QCOMPARE(b.value("LiterGrandoEo").toInt(), 15);
+    QCOMPARE(b.value("Dosiero").toString(), QStringLiteral("angla.trd"));
+}
+
+void tst_agordoj::aplikoEbligataKajMalebligata()
+{
+    malfermas();
+    trovas<QAbstractButton>("Konfigurado")->click();
+    auto* apliko = trovas<QAbstractButton>("shanghasKonfigurojn");
+    QVERIFY(!apliko->isHidden());
+    QVERIFY(!apliko->isEnabled());
+    trovas<QSpinBox>("LiterGrando")->setValue(13);
+    QVERIFY(apliko->isEnabled());
+    trovas<QSpinBox>("LiterGrando")->setValue(11);
+    QVERIFY(!apliko->isEnabled());
+    // The letter system alone does not count as a change.
+    trovas<QAbstractButton>("radioButton_2")->click();
+    QVERIFY(!apliko->isEnabled());
+
+    trovas<QSpinBox>("LiterGrandoEo")->setValue(16);
+    QVERIFY(apliko->isEnabled());
+    apliko->click();
+    QCOMPARE(iLiterGrandoEo, 16);
+    QCOMPARE(iSistemo, 1);
+    QVERIFY(apliko->isHidden());
+    QCOMPARE(trovas<QStackedWidget>("Paghujo")->currentIndex(), 0);
+}
+
+void tst_agordoj::glitiloKajNombrujoSamtempe()
+{
+    malfermas();
+    auto* glitilo = trovas<QSlider>("glitilo_traduko");
+    auto* nombrujo = trovas<QSpinBox>("LiterGrando");
+    QSignalSpy glitilaj(glitilo, &QSlider::valueChanged);
+    QSignalSpy nombrujaj(nombrujo, QOverload<int>::of(&QSpinBox::valueChanged));
+
+    glitilo->setValue(14);
+    QCOMPARE(nombrujo->value(), 14);
+    QCOMPARE(glitilaj.count(), 1);
+    QCOMPARE(nombrujaj.count(), 1);
+    QCOMPARE(trovas<QLabel>("tekstoLingvo")->styleSheet(), lernilo::specimenStilo(trovas<QFontComboBox>("Tiparo")->currentText(), 14));
+    QVERIFY(lernilo::specimenStilo("X", 14).endsWith(QStringLiteral("font-size: %1pt;").arg(ghustigas_tiparon(14))));
+
+    nombrujo->setValue(9);
+    QCOMPARE(glitilo->value(), 9);
+    QCOMPARE(glitilaj.count(), 1);   // set with its signals blocked
+    QCOMPARE(nombrujaj.count(), 2);
+}
+
+void tst_agordoj::tiparojAtingasStilon()
+{
+    malfermas();
+    trovas<QAbstractButton>("Konfigurado")->click();
+    trovas<QFontComboBox>("TiparoEo")->setCurrentFont(QFont("DejaVu Serif"));
+    trovas<QSpinBox>("LiterGrandoEo")->setValue(16);
+    trovas<QSpinBox>("LiterGrando")->setValue(12);
+    QVERIFY(trovas<QLabel>("tekstoEo")->styleSheet().contains("DejaVu Serif"));
+    trovas<QAbstractButton>("shanghasKonfigurojn")->click();
+
+    // Sizes are scaled for the screen on their way to the sheet.
+    const int eo = ghustigas_tiparon(16);
+    const int lingvo = ghustigas_tiparon(12);
+    const QString stilo = trovas<QWidget>("centralWidget")->styleSheet();
+    QVERIFY2(stilo.contains(QStringLiteral("klakbutono_nova, neklakebla_nova, korekta, cx_edit, cx_plainedit, cx_edit_minuskla { font-family: \"DejaVu Serif\";  font-size: %1pt;}").arg(eo)), qPrintable(stilo));
+    QVERIFY(stilo.contains(QStringLiteral("titolo { font-size: %1pt; font-weight: bold; min-height: 1.2em;}").arg(int(lingvo * 1.25))));
+    QVERIFY(stilo.contains(QStringLiteral("QLabel[tipo=\"afikso\"]  { font-family: \"DejaVu Serif\"; font-size: %1pt;").arg(int(eo * 1.25))));
+    QVERIFY(stilo.contains(QStringLiteral("#label_Eliri { font-size: %1pt; font-weight: bold; }").arg(lingvo - 1)));
+    QCOMPARE(QApplication::font().pointSize(), lingvo);
+}
+
+void tst_agordoj::salutoLauHoro_data()
+{
+    QTest::addColumn<int>("horo");
+    QTest::addColumn<int>("dua");
+    QTest::addColumn<QString>("radiko");
+    QTest::newRow("04:59") << 4 << 1 << "nokton";
+    QTest::newRow("05:00, first draw") << 5 << 0 << "matenon";
+    QTest::newRow("05:00, second draw") << 5 << 1 << "tagon";
+    QTest::newRow("11:59") << 11 << 0 << "matenon";
+    QTest::newRow("12:00") << 12 << 0 << "tagon";
+    QTest::newRow("15:59") << 15 << 1 << "tagon";
+    QTest::newRow("16:00") << 16 << 0 << "vespero";
+    QTest::newRow("20:59") << 20 << 1 << "vespero";
+    QTest::newRow("21:00") << 21 << 1 << "nokton";
+    QTest::newRow("00:30") << 0 << 0 << "nokton";
+}
+
+void tst_agordoj::salutoLauHoro()
+{
+    QFETCH(int, horo);
+    QFETCH(int, dua);
+    QFETCH(QString, radiko);
+    QCOMPARE(lernilo::salutoRadiko(horo, 1, dua), radiko);
+    QCOMPARE(lernilo::salutoRadiko(horo, 0, dua), QStringLiteral("saluton"));
+}
+
+void tst_agordoj::fermoElHejmoForigasRegistrajhojn()
+{
+    malfermas();
+    const QString provizora = QDir::tempPath() + "/";
+    for (int i = 0; i < 4; ++i) {
+        QFile f(provizora + QStringLiteral("prononco%1.raw").arg(i));
+        QVERIFY(f.open(QIODevice::WriteOnly));
+    }
+    trovas<QAbstractButton>("Leciono2")->click();
+    QCloseEvent unua;
+    QApplication::sendEvent(fenestro, &unua);
+    QVERIFY(!unua.isAccepted());
+    QVERIFY(QFile::exists(provizora + "prononco0.raw"));
+
+    lSxaltilo = false;
+    QCloseEvent dua;
+    QApplication::sendEvent(fenestro, &dua);
+    QVERIFY(dua.isAccepted());
+    for (int i = 0; i < 4; ++i)
+        QVERIFY(!QFile::exists(provizora + QStringLiteral("prononco%1.raw").arg(i)));
+    QSettings a(savasLoko + "lernilomelo.ini", QSettings::IniFormat);
+    a.beginGroup("Gxenerala");
+    QCOMPARE(a.childKeys().size(), 13);
+    QCOMPARE(a.value("LastaLeciono").toInt(), 2);
+}
+
+QTEST_MAIN(tst_agordoj)
+#include "tst_agordoj.moc"

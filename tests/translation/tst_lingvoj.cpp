@@ -1,0 +1,222 @@
+// The languages: the first-run choice offline and online, the language list
+// of the settings page, the weekly refresh, updates of the language in use,
+// and a change of language from the settings page.
+
+#include "lernilo.h"
+#include "testaj_helpoj.h"
+#include "testservilo.h"
+
+#include <QComboBox>
+#include <QLabel>
+#include <QListWidget>
+#include <QtTest>
+
+class tst_lingvoj : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+    void malnovaListo_data();
+    void malnovaListo();
+    void unuaFojoSenReto_data();
+    void unuaFojoSenReto();
+    void unuaFojoKunReto();
+    void listoDe200();
+    void listoKunTruo();
+    void aktualigoDeLingvo();
+    void shanghoDeLingvo();
+
+private:
+    void skribas(const QString& nomo, const QByteArray& enhavo);
+    QString rimedaTeksto(const QString& dosiero, const QString& shlosilo);
+    int rimedajLingvoj();
+
+    QTemporaryDir* ujo = nullptr;
+    TestServilo* servilo = nullptr;
+};
+
+void tst_lingvoj::init()
+{
+    ujo = new QTemporaryDir;
+    preparasLokojn(*ujo);
+    servilo = new TestServilo;
+}
+
+void tst_lingvoj::cleanup()
+{
+    QLocale::setDefault(QLocale::c());
+    delete servilo;
+    delete ujo;
+}
+
+void tst_lingvoj::skribas(const QString& nomo, const QByteArray& enhavo)
+{
+    QFile f(savasLoko + nomo);
+    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write(enhavo);
+}
+
+QString tst_lingvoj::rimedaTeksto(const QString& dosiero, const QString& shlosilo)
+{
+    QSettings s(":/tradukoj/" + dosiero, QSettings::IniFormat);
+    s.setIniCodec("UTF-8");
+    return s.value(shlosilo).toString();
+}
+
+int tst_lingvoj::rimedajLingvoj()
+{
+    return QDir(":/tradukoj", "*.trd").count();
+}
+
+void tst_lingvoj::malnovaListo_data()
+{
+    QTest::addColumn<int>("tagoj");
+    QTest::addColumn<bool>("malnova");
+    QTest::newRow("made today") << 0 << false;
+    QTest::newRow("exactly seven days") << 7 << false;
+    QTest::newRow("eight days") << 8 << true;
+}
+
+void tst_lingvoj::malnovaListo()
+{
+    QFETCH(int, tagoj);
+    QFETCH(bool, malnova);
+    const QDate hodiau(2026, 11, 22);
+    QCOMPARE(lernilo::listoMalnova(hodiau.addDays(-tagoj), hodiau), malnova);
+    QCOMPARE(lernilo::listoMalnova(QDate(), hodiau), true);
+}
+
+void tst_lingvoj::unuaFojoSenReto_data()
+{
+    QTest::addColumn<QString>("lokaro");
+    QTest::addColumn<QString>("dosiero");
+    QTest::newRow("Portuguese system") << "pt_BR" << "portugala.trd";
+    QTest::newRow("Esperanto system") << "eo" << "esperanto.trd";
+    QTest::newRow("a language the course lacks") << "ja_JP" << "angla.trd";
+}
+
+void tst_lingvoj::unuaFojoSenReto()
+{
+    QFETCH(QString, lokaro);
+    QFETCH(QString, dosiero);
+    QLocale::setDefault(QLocale(lokaro));
+    klakasEnDialogo("pushButton");
+    lernilo fenestro;
+    QCOMPARE(sTradukoDosiero, dosiero);
+    QCOMPARE(iLiterGrando, 11);
+    QCOMPARE(fenestro.findChild<QLabel*>("label_Kio")->text(), rimedaTeksto(dosiero, "Menuo/KioEstas"));
+    QVERIFY(!fenestro.findChild<QLabel*>("label_Kio")->text().isEmpty());
+    QCOMPARE(fenestro.findChild<QComboBox*>("Lingvo")->count(), rimedajLingvoj());
+}
+
+void tst_lingvoj::unuaFojoKunReto()
+{
+    sServilo = servilo->adreso();
+    servilo->metas("/datumoj/traduklisto.ini", QString::fromUtf8(
+        "[0]\r\nLingvoID=en\r\nLingvo=English — angla\r\nDosierNomo=angla.trd\r\nDato=09.07.2020\r\n\r\n"
+        "[1]\r\nLingvoID=pt\r\nLingvo=Português — portugala\r\nDosierNomo=portugala.trd\r\nDato=09.07.2020\r\n").toUtf8());
+    servilo->metas("/datumoj/tradukoj/portugala.trd",
+                   "[Traduko]\r\nLingvoID=pt\r\nLingvo=Portugu\xc3\xaas\r\n\r\n[Menuo]\r\nKioEstas=Do servidor\r\n");
+    QLocale::setDefault(QLocale("pt_PT"));
+    klakasEnDialogo("pushButton");
+    lernilo fenestro;
+    QCOMPARE(servilo->petoj, QStringList() << "/datumoj/traduklisto.ini" << "/datumoj/tradukoj/portugala.trd");
+    QCOMPARE(sTradukoDosiero, QStringLiteral("portugala.trd"));
+    QCOMPARE(sLingvo, QString::fromUtf8("Português — portugala"));
+    QVERIFY(QFile::exists(savasLoko + "portugala.trd"));
+    QCOMPARE(fenestro.findChild<QLabel*>("label_Kio")->text(), QStringLiteral("Do servidor"));
+    // The server's two rows come first in the settings page's list.
+    auto* lingvoj = fenestro.findChild<QComboBox*>("Lingvo");
+    QCOMPARE(lingvoj->count(), 2 + rimedajLingvoj());
+    QCOMPARE(lingvoj->currentIndex(), 1);
+}
+
+void tst_lingvoj::listoDe200()
+{
+    QByteArray listo;
+    for (int i = 0; i <= 200; ++i)
+        listo += "[" + QByteArray::number(i) + "]\r\nLingvoID=l" + QByteArray::number(i % 10)
+                 + "\r\nLingvo=Lingvo " + QByteArray::number(i) + "\r\nDosierNomo=l" + QByteArray::number(i)
+                 + ".trd\r\nDato=01.01.2020\r\n\r\n";
+    preparasLerninton(*ujo);
+    skribas("traduklisto.ini", listo);
+    lernilo fenestro;
+    auto* lingvoj = fenestro.findChild<QComboBox*>("Lingvo");
+    QCOMPARE(lingvoj->count(), 200 + rimedajLingvoj());
+    QCOMPARE(lingvoj->itemText(199), QStringLiteral("Lingvo 199"));
+    QCOMPARE(lingvoj->findText("Lingvo 200"), -1);
+}
+
+void tst_lingvoj::listoKunTruo()
+{
+    preparasLerninton(*ujo);
+    skribas("traduklisto.ini",
+            "[0]\r\nLingvoID=a0\r\nLingvo=Unu\r\nDosierNomo=a.trd\r\n\r\n"
+            "[1]\r\nLingvoID=a1\r\nLingvo=Du\r\nDosierNomo=b.trd\r\n\r\n"
+            "[2]\r\nLingvoID=a2\r\nLingvo=Tri\r\nDosierNomo=c.trd\r\n\r\n"
+            "[3]\r\nLingvo=Sen kodo\r\nDosierNomo=d.trd\r\n\r\n"
+            "[4]\r\nLingvoID=a4\r\nLingvo=Kvin\r\nDosierNomo=e.trd\r\n");
+    lernilo fenestro;
+    auto* lingvoj = fenestro.findChild<QComboBox*>("Lingvo");
+    QCOMPARE(lingvoj->count(), 3 + rimedajLingvoj());
+    QCOMPARE(lingvoj->findText("Kvin"), -1);
+}
+
+void tst_lingvoj::aktualigoDeLingvo()
+{
+    // The list is missing: it is fetched, and a newer date of the language
+    // in use brings its file.
+    preparasLerninton(*ujo);
+    QFile::remove(savasLoko + "traduklisto.ini");
+    sServilo = servilo->adreso();
+    servilo->metas("/datumoj/traduklisto.ini",
+                   "[0]\r\nLingvoID=en\r\nLingvo=English\r\nDosierNomo=angla.trd\r\nDato=09.07.2025\r\n");
+    servilo->metas("/datumoj/tradukoj/angla.trd", "[Traduko]\r\nLingvoID=en\r\nDato=09.07.2025\r\n\r\n[Menuo]\r\nKioEstas=Newer\r\n");
+    lernilo fenestro;
+    auto* etikedo = fenestro.findChild<QLabel*>("label_Kio");
+    QTRY_COMPARE_WITH_TIMEOUT(etikedo->text(), QStringLiteral("Newer"), 10000);
+    QCOMPARE(servilo->petoj, QStringList() << "/datumoj/traduklisto.ini" << "/datumoj/tradukoj/angla.trd");
+
+    // Next start: the list is fresh, nothing is fetched, the newer file stays.
+    servilo->petoj.clear();
+    lernilo dua;
+    QCOMPARE(dua.findChild<QLabel*>("label_Kio")->text(), QStringLiteral("Newer"));
+    QCOMPARE(servilo->petoj, QStringList());
+}
+
+void tst_lingvoj::shanghoDeLingvo()
+{
+    preparasLerninton(*ujo);
+    sServilo = servilo->adreso();   // it has no such file: 404
+    lernilo fenestro;
+    fenestro.findChild<QAbstractButton*>("Leciono2")->click();
+    auto* lecionaEtikedo = fenestro.findChild<QLabel*>("Lec02_Label1");
+    const QString angle = lecionaEtikedo->text();
+    fenestro.findChild<QAbstractButton*>("Hejmo")->click();
+
+    fenestro.findChild<QAbstractButton*>("Konfigurado")->click();
+    auto* lingvoj = fenestro.findChild<QComboBox*>("Lingvo");
+    const int esperanto = lingvoj->findText("Esperanto");
+    QVERIFY(esperanto >= 0);
+    lingvoj->setCurrentIndex(esperanto);
+    QMetaObject::invokeMethod(&fenestro, "on_Lingvo_activated", Q_ARG(int, esperanto));
+    auto* apliko = fenestro.findChild<QAbstractButton*>("shanghasKonfigurojn");
+    QVERIFY(apliko->isEnabled());
+    apliko->click();
+    QCOMPARE(sTradukoDosiero, QStringLiteral("esperanto.trd"));
+    auto* kio = fenestro.findChild<QLabel*>("label_Kio");
+    QTRY_COMPARE_WITH_TIMEOUT(kio->text(), rimedaTeksto("esperanto.trd", "Menuo/KioEstas"), 10000);
+    QCOMPARE(servilo->petoj.value(0), QStringLiteral("/datumoj/tradukoj/esperanto.trd"));
+    // Each run of the translation adds the languages to the list once more.
+    QCOMPARE(lingvoj->count(), 2 * rimedajLingvoj());
+
+    // The open lesson keeps its language until it is entered again.
+    QCOMPARE(lecionaEtikedo->text(), angle);
+    fenestro.findChild<QAbstractButton*>("Leciono2")->click();
+    QCOMPARE(lecionaEtikedo->text(), rimedaTeksto("esperanto.trd", "Lec02/Label1"));
+}
+
+QTEST_MAIN(tst_lingvoj)
+#include "tst_lingvoj.moc"
