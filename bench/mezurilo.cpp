@@ -9,10 +9,16 @@
 #include "lernilo.h"
 
 #include <QAbstractButton>
+#include <QComboBox>
+#include <QLabel>
+#include <QMediaPlayer>
+#include <QTabWidget>
+#include <QTest>
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QFrame>
 #include <QProcess>
+#include <QSettings>
 #include <QTemporaryDir>
 #include <QTextStream>
 #include <algorithm>
@@ -27,12 +33,22 @@ double mediano(QVector<double> v)
     return n % 2 ? v.at(n / 2) : (v.at(n / 2 - 1) + v.at(n / 2)) / 2.0;
 }
 
+// A learner who chose English, with a fresh language list, and the sounds
+// of the build beside the program.
 void preparas(const QTemporaryDir& ujo)
 {
     sSistemo = QStringLiteral("linux");
     Loko = QStringLiteral(":/");
-    mrLoko = ujo.path() + QStringLiteral("/");
+    mrLoko = QCoreApplication::applicationDirPath() + QStringLiteral("/../");
     savasLoko = ujo.path() + QStringLiteral("/");
+    sServilo = QStringLiteral("http://127.0.0.1:9");
+    QSettings agordoj(savasLoko + QStringLiteral("lernilomelo.ini"), QSettings::IniFormat);
+    agordoj.setIniCodec("UTF-8");
+    agordoj.setValue(QStringLiteral("Gxenerala/Lingvo"), QString::fromUtf8("English — angla"));
+    agordoj.setValue(QStringLiteral("Gxenerala/Dosiero"), QStringLiteral("angla.trd"));
+    agordoj.sync();
+    QFile listo(savasLoko + QStringLiteral("traduklisto.ini"));
+    listo.open(QIODevice::WriteOnly);
 }
 
 void atendasMontron(QWidget* w)
@@ -80,6 +96,7 @@ double tempoDeProceso(const QString& celo)
 int main(int argc, char** argv)
 {
     qputenv("QT_QPA_PLATFORM", "offscreen");
+    qputenv("QT_GSTREAMER_PLAYBIN_AUDIOSINK", "fakesink");
     QApplication app(argc, argv);
     const QStringList args = app.arguments();
     if (args.size() > 2 && args.at(1) == QLatin1String("--infano"))
@@ -119,5 +136,58 @@ int main(int argc, char** argv)
                   .arg(n, 2).arg(mediano(tempoj), 8, 'f', 1).arg(fenestrajhoj, 6);
         el.flush();
     }
+
+    lernilo fenestro;
+    atendasMontron(&fenestro);
+    fenestro.activateWindow();
+    if (!QTest::qWaitForWindowActive(&fenestro))
+        el << "(the window did not become active: no sound will play)\n";
+
+    // A click on a word until its sound plays.
+    fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono2"))->click();
+    QVector<double> klakoj;
+    const QList<QLabel*> vortoj = fenestro.leciono(2)->findChildren<QLabel*>();
+    for (QLabel* vorto : vortoj) {
+        if (qstrcmp(vorto->metaObject()->className(), "klakbutono_nova") != 0 || klakoj.size() >= 4 * kiom)
+            continue;
+        fenestro.ludilo->stop();
+        QElapsedTimer t;
+        t.start();
+        QTest::mousePress(vorto, Qt::LeftButton);
+        while (fenestro.ludilo->state() != QMediaPlayer::PlayingState && t.elapsed() < 5000)
+            QApplication::processEvents();
+        klakoj << t.nsecsElapsed() / 1e6;
+        QTest::mouseRelease(vorto, Qt::LeftButton);
+    }
+    el << QStringLiteral("\nClick on a word to its sound playing: %1 ms (median of %2 words)\n")
+              .arg(mediano(klakoj), 0, 'f', 1).arg(klakoj.size());
+
+    // Relabelling lesson 1, and a change of language from the settings page
+    // until the home page reads in the new language.
+    QVector<double> tradoj, shanghoj;
+    for (int i = 0; i < kiom; ++i) {
+        fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono1"))->click();
+        QElapsedTimer t;
+        t.start();
+        Trad(fenestro.leciono(1), QStringLiteral("Lec01"));
+        tradoj << t.nsecsElapsed() / 1e6;
+        fenestro.findChild<QAbstractButton*>(QStringLiteral("Hejmo"))->click();
+
+        fenestro.findChild<QAbstractButton*>(QStringLiteral("Konfigurado"))->click();
+        auto* lingvoj = fenestro.findChild<QComboBox*>(QStringLiteral("Lingvo"));
+        const QString cela = sTradukoDosiero == QLatin1String("esperanto.trd") ? QStringLiteral("English — angla")
+                                                                                : QStringLiteral("Esperanto");
+        lingvoj->setCurrentIndex(lingvoj->findText(cela));
+        auto* kio = fenestro.findChild<QLabel*>(QStringLiteral("label_Kio"));
+        const QString antaua = kio->text();
+        t.start();
+        fenestro.findChild<QAbstractButton*>(QStringLiteral("shanghasKonfigurojn"))->click();
+        while (kio->text() == antaua && t.elapsed() < 10000)
+            QApplication::processEvents();
+        fenestro.repaint();
+        shanghoj << t.nsecsElapsed() / 1e6;
+    }
+    el << QStringLiteral("Relabelling lesson 1 (Trad): %1 ms\n").arg(mediano(tradoj), 0, 'f', 1);
+    el << QStringLiteral("Change of language, apply to home page relabelled: %1 ms\n").arg(mediano(shanghoj), 0, 'f', 1);
     return 0;
 }

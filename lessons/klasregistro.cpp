@@ -1,7 +1,12 @@
 #include "klasregistro.h"
 
+#include "cx_edit.h"
+#include "cx_plainedit.h"
 #include "klakbutono_nova.h"
 #include "korekta.h"
+#include "korekta_butono.h"
+#include "sendas_butono.h"
+#include "sendujo.h"
 #include "label_klakebla.h"
 #include "label_sago.h"
 #include "label_sago_reversa.h"
@@ -46,6 +51,11 @@ const QHash<QString, Fabriko>& fabrikoj()
         {QStringLiteral("myLabel"), &faras<myLabel>},
         {QStringLiteral("klakbutono_nova"), &faras<klakbutono_nova>},
         {QStringLiteral("korekta"), &faras<korekta>},
+        {QStringLiteral("cx_edit"), &faras<cx_edit>},
+        {QStringLiteral("cx_plainedit"), &faras<cx_plainedit>},
+        {QStringLiteral("sendujo"), &faras<sendujo>},
+        {QStringLiteral("sendas_butono"), &faras<sendas_butono>},
+        {QStringLiteral("korekta_butono"), &faras<korekta_butono>},
     };
     return listo;
 }
@@ -54,11 +64,6 @@ const QHash<QString, Fabriko>& fabrikoj()
 const QHash<QString, Fabriko>& anstatauantoj()
 {
     static const QHash<QString, Fabriko> listo = {
-        {QStringLiteral("cx_edit"), &faras<QLineEdit>},
-        {QStringLiteral("cx_plainedit"), &faras<QPlainTextEdit>},
-        {QStringLiteral("sendujo"), &faras<QFrame>},
-        {QStringLiteral("sendas_butono"), &faras<QPushButton>},
-        {QStringLiteral("korekta_butono"), &faras<QPushButton>},
         {QStringLiteral("mp3ludilo"), &faras<QFrame>},
         
         {QStringLiteral("ekzerco1"), &faras<QFrame>},

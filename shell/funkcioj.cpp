@@ -8,6 +8,11 @@
 #include "neklakebla_nova.h"
 
 #include <QApplication>
+#include <QClipboard>
+#include <QPainter>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProgressBar>
 #include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
@@ -440,4 +445,112 @@ void SavasEk(QTabWidget* langetoj)
     }
     agordoj.endGroup();
     agordoj.sync();
+}
+
+QString SendasTeksto(QTabWidget* langetoj, QWidget* pagho, int numero, const QString& leciono, bool propraButono)
+{
+    const QString linio(QLatin1Char('\n'));
+    QString teksto = QStringLiteral("Leciono ") + leciono;
+    QList<QLabel*> etikedoj;
+    if (leciono != QLatin1String("13")) {
+        etikedoj = pagho->findChildren<QLabel*>();
+        teksto += QStringLiteral(" - Paĝo ") + QString::number(numero) + linio + linio;
+    } else {
+        // The final exam goes out whole.
+        for (int i = 0; i <= 4 && i < langetoj->count(); ++i)
+            etikedoj += langetoj->widget(i)->findChildren<QLabel*>();
+    }
+    for (QLabel* etikedo : etikedoj) {
+        if (propraButono && (qobject_cast<korekta*>(etikedo) || qobject_cast<neklakebla_nova*>(etikedo)
+                             || qobject_cast<klakbutono_nova*>(etikedo)))
+            continue;
+        QWidget* amiko = etikedo->buddy();
+        if (!amiko) {
+            teksto += (propraButono ? linio + linio : QString()) + etikedo->text() + linio + linio;
+            continue;
+        }
+        QString demando, respondo;
+        if (auto* kampo = qobject_cast<QLineEdit*>(amiko)) {
+            demando = etikedo->text().trimmed();
+            respondo = kampo->text();
+        } else if (auto* kampo = qobject_cast<QPlainTextEdit*>(amiko)) {
+            demando = etikedo->text().trimmed();
+            respondo = linio + linio + kampo->toPlainText();
+        }
+        if (!demando.isEmpty())
+            teksto += demando + linio;
+        if (!respondo.isEmpty())
+            teksto += respondo + linio + linio;
+    }
+    return CxSist(teksto, iSistemo);
+}
+
+void KopiasPorSendi(const QString& teksto)
+{
+    QGuiApplication::clipboard()->setText(teksto, QClipboard::Clipboard);
+    QMessageBox skatolo(QMessageBox::Information, QString(), smTondujo, QMessageBox::Ok, QApplication::activeWindow());
+    skatolo.exec();
+}
+
+void Sendas(QWidget* pagho, int numero)
+{
+    auto* langetoj = pagho && pagho->parent() ? qobject_cast<QTabWidget*>(pagho->parent()->parent()) : nullptr;
+    if (!langetoj)
+        return;
+    KopiasPorSendi(SendasTeksto(langetoj, pagho, numero, langetoj->objectName().mid(3, 2), false));
+}
+
+void Sendas_Printilo(QTabWidget* langetoj, QString titolo, QProgressBar* progreso)
+{
+    QPrinter printilo(QPrinter::HighResolution);
+    if (titolo == QLatin1String("Leciono 13"))
+        titolo = QStringLiteral("Fina Ekzameno");
+    printilo.setDocName(titolo);
+    QPrintDialog dialogo(&printilo, langetoj);
+    if (dialogo.exec() != QDialog::Accepted)
+        return;
+
+    QPainter farbisto;
+    if (!farbisto.begin(&printilo))
+        return;
+    QWidget* montrata = langetoj->currentWidget();
+    const int w = montrata->width();
+    const int h = montrata->height();
+    const QRect pagho = printilo.pageLayout().paintRectPixels(printilo.resolution());
+    const double xSkalo = double(pagho.width()) / double(w + 140);
+    const double ySkalo = double(pagho.height() / 2) / double(h + 140);
+    const double skalo = qMin(xSkalo, ySkalo);
+    farbisto.scale(skalo, skalo);
+    farbisto.translate(70, 70);
+    QFont tiparo = QApplication::font();
+    tiparo.setPixelSize(20);
+    farbisto.setFont(tiparo);
+    farbisto.drawText(0, 0, QStringLiteral("Lernilo  -  ") + titolo + QStringLiteral("   (") + sServilo + QLatin1Char(')'));
+
+    progreso->show();
+    progreso->setMaximum(langetoj->count() + 1);
+    progreso->reset();
+    const int antaua = langetoj->currentIndex();
+    bool duaDuono = false;
+    for (int i = 0; i < langetoj->count(); ++i) {
+        langetoj->setCurrentIndex(i);
+        QCoreApplication::processEvents();
+        QWidget* langeto = langetoj->widget(i);
+        if (langeto->objectName().left(7) != QLatin1String("Ekzerco")) {
+            langeto->render(&farbisto, langeto->pos(), QRegion(langeto->rect()), QWidget::DrawChildren);
+            if (!duaDuono) {
+                farbisto.translate(0, h + 70);
+                duaDuono = true;
+            } else if (i != langetoj->count() - 1) {
+                printilo.newPage();
+                farbisto.translate(0, -(h + 70));
+                duaDuono = false;
+            }
+        }
+        progreso->setValue(i + 1);
+    }
+    langetoj->setCurrentIndex(antaua);
+    progreso->reset();
+    progreso->hide();
+    farbisto.end();
 }

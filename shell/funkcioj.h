@@ -121,6 +121,18 @@ void SxargxasEk(QTabWidget* langetoj, bool savas);
 // The same store, looking for the written pages at any depth.
 void SavasEk(QTabWidget* langetoj);
 
+// Hand-in: the text of a written page (questions, answers and the other
+// labels, in the learner's letter system), put on the clipboard with a
+// message. `numero` counts pages from 1. The page's own button leaves the
+// model answers and the Esperanto words out, and sets every label without a
+// question apart by blank lines; the footer's path takes every label.
+void Sendas(QWidget* pagho, int numero);
+QString SendasTeksto(QTabWidget* langetoj, QWidget* pagho, int numero, const QString& leciono, bool propraButono);
+void KopiasPorSendi(const QString& teksto);
+
+// Prints the pages of a lesson but its exercises, two to a sheet.
+void Sendas_Printilo(QTabWidget* langetoj, QString titolo, QProgressBar* progreso);
+
 // The farewell, spoken when the program ends.
 void Adiau();
 

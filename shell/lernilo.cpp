@@ -736,6 +736,24 @@ void lernilo::on_Konfigurado_clicked()
 }
 
 void lernilo::on_label_Konfiguroj_clicked() { on_Konfigurado_clicked(); }
+void lernilo::on_Sendas_clicked()
+{
+    QWidget* pagho = ui->Paghujo->currentWidget();
+    const QList<QTabWidget*> abas = pagho ? pagho->findChildren<QTabWidget*>() : QList<QTabWidget*>();
+    if (abas.isEmpty())
+        return;
+    Sendas(abas.first()->currentWidget(), abas.first()->currentIndex() + 1);
+}
+
+void lernilo::on_printilo_clicked()
+{
+    QWidget* pagho = ui->Paghujo->currentWidget();
+    const QList<QTabWidget*> abas = pagho ? pagho->findChildren<QTabWidget*>() : QList<QTabWidget*>();
+    if (abas.isEmpty())
+        return;
+    Sendas_Printilo(abas.first(), QStringLiteral("Leciono ") + abas.first()->objectName().mid(3, 2), ui->prog_printilo);
+}
+
 void lernilo::on_KioEstas_clicked()
 {
     QDesktopServices::openUrl(QUrl(helpdosiero(QStringLiteral("kio"))));

@@ -87,6 +87,8 @@ public slots:
     void on_label_Kreditoj_clicked();
     void on_Konfigurado_clicked();
     void on_label_Konfiguroj_clicked();
+    void on_Sendas_clicked();
+    void on_printilo_clicked();
     void on_KioEstas_clicked();
     void on_KielUzi_clicked();
     void on_label_Kio_clicked();
