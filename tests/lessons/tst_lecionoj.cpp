@@ -325,7 +325,8 @@ void tst_lecionoj::strukturo()
             QVERIFY2(kampoj == nombroPost(partoj, "s:"), qPrintable(kie + QStringLiteral(": %1 fields").arg(kampoj)));
             QVERIFY2(kiomDa(w, "korekta") == nombroPost(partoj, "r:"), qPrintable(kie + ": model answers"));
             QCOMPARE(kiomDa(w, "sendujo"), partoj.contains("sendujo") ? 1 : 0);
-            QCOMPARE(kiomDa(w, "sendas_butono"), partoj.contains("butono") ? 1 : 0);
+            // A hand-in panel holds a hand-in button of its own.
+            QCOMPARE(kiomDa(w, "sendas_butono"), partoj.contains("butono") || partoj.contains("sendujo") ? 1 : 0);
         }
     }
 }
@@ -382,7 +383,7 @@ void tst_lecionoj::skribajPaghoj()
                 solaButono << w->objectName();
         }
     }
-    QCOMPARE(sendas.size(), 20);
+    QCOMPARE(sendas.size(), 19);
     QCOMPARE(solaButono, QStringList() << "Sendas1_Lec09" << "Sendas1_Lec10" << "Sendas2_Lec10"
                                        << "Sendas3_Lec10" << "Sendas1_Lec12" << "Sendas5_Lec13");
 }

@@ -17,8 +17,11 @@ namespace {
 
 QString senMarkoj(QString teksto)
 {
+    // Markup inside a word (a stressed syllable in bold) keeps the word whole.
+    static const QRegularExpression linio(QStringLiteral("<(br|p|/p|li|/li)[^>]*>"), QRegularExpression::CaseInsensitiveOption);
     static const QRegularExpression etikedo(QStringLiteral("<[^>]*>"));
-    teksto.replace(etikedo, QStringLiteral(" "));
+    teksto.replace(linio, QStringLiteral(" "));
+    teksto.remove(etikedo);
     teksto.replace(QStringLiteral("&nbsp;"), QStringLiteral(" "));
     return teksto;
 }

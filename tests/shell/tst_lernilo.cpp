@@ -54,6 +54,10 @@ void tst_lernilo::init()
     ujo = new QTemporaryDir;
     preparasLerninton(*ujo);
     fenestro = new lernilo;
+    // The resume point follows the pages only while the main window is active.
+    fenestro->show();
+    fenestro->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(fenestro));
 }
 
 void tst_lernilo::cleanup()
