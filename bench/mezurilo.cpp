@@ -148,9 +148,13 @@ int main(int argc, char** argv)
     QVector<double> klakoj;
     const QList<QLabel*> vortoj = fenestro.leciono(2)->findChildren<QLabel*>();
     for (QLabel* vorto : vortoj) {
-        if (qstrcmp(vorto->metaObject()->className(), "klakbutono_nova") != 0 || klakoj.size() >= 4 * kiom)
+        if (qstrcmp(vorto->metaObject()->className(), "klakbutono_nova") != 0 || !vorto->isVisible()
+            || klakoj.size() >= 4 * kiom)
             continue;
         fenestro.ludilo->stop();
+        fenestro.activateWindow();
+        if (!QTest::qWaitForWindowActive(&fenestro))
+            continue;
         QElapsedTimer t;
         t.start();
         QTest::mousePress(vorto, Qt::LeftButton);
@@ -178,6 +182,7 @@ int main(int argc, char** argv)
         const QString cela = sTradukoDosiero == QLatin1String("esperanto.trd") ? QStringLiteral("English — angla")
                                                                                 : QStringLiteral("Esperanto");
         lingvoj->setCurrentIndex(lingvoj->findText(cela));
+        QMetaObject::invokeMethod(&fenestro, "on_Lingvo_activated", Q_ARG(int, lingvoj->currentIndex()));
         auto* kio = fenestro.findChild<QLabel*>(QStringLiteral("label_Kio"));
         const QString antaua = kio->text();
         t.start();

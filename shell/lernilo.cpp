@@ -538,6 +538,12 @@ void lernilo::ShanghasPaghon(QString pagho, QFrame* leciono)
     QWidget* pagh = paghoj.first();
 
     if (!leciono) {
+        // The learner moves with the navigator: the tab bars take no place.
+        // (Set before the lesson is built, so that its many widgets are
+        // styled once and not twice.)
+        pagh->setStyleSheet(sSistemo == QLatin1String("osx")
+            ? QStringLiteral("QTabWidget::pane {top: -1em;}   QTabBar::tab {height: 0px; width: 0px;} QTabWidget::tab-bar {height: 0px; width: 0px;}")
+            : QStringLiteral("QTabBar::tab {height: 0px; width: 0px;} QTabWidget::tab-bar {height: 0px; width: 0px;}"));
         bool bone = false;
         const int numero = pagho.startsWith(QLatin1String("Pagho")) ? pagho.mid(5).toInt(&bone) : 0;
         if (bone && pagho.size() == 7 && numero >= 1 && numero <= 13) {
@@ -547,10 +553,6 @@ void lernilo::ShanghasPaghon(QString pagho, QFrame* leciono)
             if (pagh->layout())
                 pagh->layout()->addWidget(kadro);
         }
-        // The learner moves with the navigator: the tab bars take no place.
-        pagh->setStyleSheet(sSistemo == QLatin1String("osx")
-            ? QStringLiteral("QTabWidget::pane {top: -1em;}   QTabBar::tab {height: 0px; width: 0px;} QTabWidget::tab-bar {height: 0px; width: 0px;}")
-            : QStringLiteral("QTabBar::tab {height: 0px; width: 0px;} QTabWidget::tab-bar {height: 0px; width: 0px;}"));
         for (QTabWidget* langetoj : pagh->findChildren<QTabWidget*>()) {
             if (langetoj->objectName().startsWith(QLatin1String("Lec")) || langetoj->objectName() == QLatin1String("Fina_Ekzameno"))
                 SxargxasEk(langetoj, false);
