@@ -21,6 +21,7 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
+#include <QRadioButton>
 #include <QTabWidget>
 #include <QMessageBox>
 #include <QScreen>
@@ -553,4 +554,87 @@ void Sendas_Printilo(QTabWidget* langetoj, QString titolo, QProgressBar* progres
     progreso->reset();
     progreso->hide();
     farbisto.end();
+}
+
+int _Matriz(QStringList* lista, QString id, QString tipo)
+{
+    lista->clear();
+    const bool traduko = tipo == QLatin1String("T");
+    const QString dosiero = traduko ? Loko + QStringLiteral("tradukoj/") + sTradukoDosiero
+                                    : QStringLiteral(":ekzercoj/ekz") + id.left(2) + QStringLiteral(".dat");
+    QSettings datumoj(dosiero, QSettings::IniFormat);
+    datumoj.setIniCodec("UTF-8");
+    datumoj.beginGroup(traduko ? QStringLiteral("Ekzerco-") + id : id + tipo);
+    const int kiom = datumoj.allKeys().size();
+    const QString defaulto = traduko ? QStringLiteral("Ne tradukita") : QString();
+    for (int i = 0; i < kiom; ++i)
+        lista->append(datumoj.value(QString::number(i), defaulto).toString());
+    datumoj.endGroup();
+    return kiom;
+}
+
+int _Matriz2(QList<QStringList>* lista, QString id, QString tipo, int largho)
+{
+    lista->clear();
+    QSettings datumoj(QStringLiteral(":ekzercoj/ekz") + id.left(2) + QStringLiteral(".dat"), QSettings::IniFormat);
+    datumoj.setIniCodec("UTF-8");
+    datumoj.beginGroup(id + tipo);
+    const int kiom = datumoj.allKeys().size();
+    for (int i = 0; i < kiom; ++i) {
+        const QString valoro = datumoj.value(QString::number(i), QString()).toString();
+        QStringList vico;
+        QString kampo;
+        for (const QChar c : valoro) {
+            if (c == QLatin1Char('~')) {
+                vico << kampo;
+                kampo.clear();
+            } else {
+                kampo += c;
+            }
+        }
+        vico << kampo;
+        while (vico.size() < largho)
+            vico << QString();
+        lista->append(vico);
+    }
+    datumoj.endGroup();
+    return kiom;
+}
+
+int limigo(int n)
+{
+    return qMin(n, 40);
+}
+
+void tekstoblinko(QWidget* w)
+{
+    const QString antaua = w->styleSheet();
+    QString unua, dua;
+    if (qobject_cast<QRadioButton*>(w)) {
+        unua = QStringLiteral("background: lightBlue;");
+        dua = QStringLiteral("background: white;");
+    } else {
+        const QFont f = w->font();
+        const bool pikseloj = f.pointSize() < 1;
+        const QString grando = QString::number(pikseloj ? f.pixelSize() : f.pointSize())
+                               + (pikseloj ? QStringLiteral("px") : QStringLiteral("pt"));
+        const QString resto = QStringLiteral("; font-size: ") + grando + QStringLiteral("; font-family: ") + f.family();
+        unua = QStringLiteral("font-weight: bold; color: red") + resto;
+        dua = QStringLiteral("font-weight: bold; color: white") + resto;
+    }
+    QElapsedTimer tempo;
+    tempo.start();
+    int k = 0;
+    for (;;) {
+        QCoreApplication::processEvents();
+        if (tempo.elapsed() > qint64(Ofteco) * k) {
+            ++k;
+            w->setStyleSheet(k % 2 ? unua : dua);
+            w->update();
+        }
+        if (tempo.elapsed() >= qint64(NumSec) * 1000) {
+            w->setStyleSheet(antaua);
+            return;
+        }
+    }
 }

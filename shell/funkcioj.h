@@ -121,6 +121,18 @@ void SxargxasEk(QTabWidget* langetoj, bool savas);
 // The same store, looking for the written pages at any depth.
 void SavasEk(QTabWidget* langetoj);
 
+// Exercise data. _Matriz reads one column of an exercise as plain strings
+// (column "T" comes from the translation in use, group "Ekzerco-" + id);
+// _Matriz2 reads one as rows split at "~", each padded to `largho` fields.
+// Both empty the list first and return the number of keys found.
+int _Matriz(QStringList* lista, QString id, QString tipo);
+int _Matriz2(QList<QStringList>* lista, QString id, QString tipo, int largho);
+// The most items one run of some exercises takes: n, but at most 40.
+int limigo(int n);
+// Makes a widget blink for NumSec seconds to point at a right answer; the
+// window stays alive meanwhile.
+void tekstoblinko(QWidget* w);
+
 // Hand-in: the text of a written page (questions, answers and the other
 // labels, in the learner's letter system), put on the clipboard with a
 // message. `numero` counts pages from 1. The page's own button leaves the
