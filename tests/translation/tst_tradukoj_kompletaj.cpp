@@ -1,0 +1,99 @@
+// The languages the course ships are complete: every key of the list of
+// things to translate is in each of them for every lesson that has content,
+// with a real text, and so is every text of the window's own pages.
+
+#include "funkcioj.h"
+#include "lecionkadro.h"
+#include "testaj_helpoj.h"
+#include "tradukeroj.h"
+
+#include <QSettings>
+#include <QTabWidget>
+#include <QtTest>
+
+class tst_tradukoj_kompletaj : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void kompletaj_data();
+    void kompletaj();
+    void anglajMesaghoj();
+
+private:
+    QStringList enhavaj;   // groups of the lessons that have content
+    QTemporaryDir ujo;
+};
+
+void tst_tradukoj_kompletaj::initTestCase()
+{
+    preparasLokojn(ujo);
+    for (int n = 1; n <= 13; ++n) {
+        QWidget pagho;
+        lecionkadro kadro(n, &pagho);
+        for (const Tradukero& t : tradukeroj::deLeciono(kadro.langetoj())) {
+            if (!t.teksto.isEmpty()) {
+                enhavaj << kadro.langetoj()->objectName();
+                break;
+            }
+        }
+    }
+    QVERIFY(enhavaj.contains("Lec01"));
+    QVERIFY(enhavaj.contains("Lec02"));
+}
+
+void tst_tradukoj_kompletaj::kompletaj_data()
+{
+    QTest::addColumn<QString>("dosiero");
+    QTest::newRow("English") << "angla.trd";
+    QTest::newRow("Esperanto") << "esperanto.trd";
+    QTest::newRow("Portuguese") << "portugala.trd";
+}
+
+void tst_tradukoj_kompletaj::kompletaj()
+{
+    QFETCH(QString, dosiero);
+    QSettings listo(":/tradukoj/tradukendaj.tdf", QSettings::IniFormat);
+    QSettings traduko(":/tradukoj/" + dosiero, QSettings::IniFormat);
+    traduko.setIniCodec("UTF-8");
+    QStringList grupoj = {"Gheneralaj", "Konfig", "Menuo", "Menuo4", "Mesagxoj"};
+    grupoj += enhavaj;
+    QStringList mankas;
+    for (const QString& g : grupoj) {
+        listo.beginGroup(g);
+        for (const QString& numero : listo.childKeys()) {
+            const QString sh = g + '/' + listo.value(numero).toString();
+            const QString valoro = traduko.value(sh, "Ne Tradukita").toString();
+            if (valoro == QLatin1String("Ne Tradukita") || valoro.trimmed().isEmpty())
+                mankas << sh;
+        }
+        listo.endGroup();
+    }
+    for (int i = 0; i <= 12; ++i) {
+        if (traduko.value(QStringLiteral("Ekzerco-Klarigoj/%1").arg(i)).toString().isEmpty())
+            mankas << QStringLiteral("Ekzerco-Klarigoj/%1").arg(i);
+    }
+    for (const char* sh : {"Traduko/Lingvo", "Traduko/LingvoID", "Traduko/Dato", "Traduko/Tradukinto"}) {
+        if (traduko.value(sh).toString().isEmpty())
+            mankas << sh;
+    }
+    QVERIFY2(mankas.isEmpty(), qPrintable(mankas.join(", ")));
+}
+
+void tst_tradukoj_kompletaj::anglajMesaghoj()
+{
+    QSettings angla(":/tradukoj/angla.trd", QSettings::IniFormat);
+    angla.setIniCodec("UTF-8");
+    QCOMPARE(angla.value("Mesagxoj/smGratulon").toString(), QStringLiteral("Congratulations!  Your work was very good!"));
+    QCOMPARE(angla.value("Mesagxoj/smDenove").toString(), QStringLiteral("Your work wasn't good.  Try again!"));
+    QCOMPARE(angla.value("Ekzerco-Klarigoj/0").toString(), QStringLiteral("This is the subject, and a subject can't end with \"n\"."));
+    QCOMPARE(angla.value("Ekzerco-Klarigoj/4").toString(), QStringLiteral("Congratulations!  This is the direct object and must end with \"n\"."));
+    QSettings esperanto(":/tradukoj/esperanto.trd", QSettings::IniFormat);
+    esperanto.setIniCodec("UTF-8");
+    QCOMPARE(esperanto.value("Mesagxoj/smGratulon").toString(), QString::fromUtf8("Gratulon! Via rezulto estis tre bona!"));
+    QCOMPARE(esperanto.value("Mesagxoj/smDenove").toString(), QString::fromUtf8("Via rezulto ne estis bona. Provu denove!"));
+}
+
+QTEST_MAIN(tst_tradukoj_kompletaj)
+#include "tst_tradukoj_kompletaj.moc"
