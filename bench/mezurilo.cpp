@@ -11,6 +11,9 @@
 #include <QAbstractButton>
 #include <QComboBox>
 #include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include "lecionkadro.h"
 #include <QMediaPlayer>
 #include <QTabWidget>
 #include <QTest>
@@ -193,6 +196,37 @@ int main(int argc, char** argv)
         shanghoj << t.nsecsElapsed() / 1e6;
     }
     el << QStringLiteral("Relabelling lesson 1 (Trad): %1 ms\n").arg(mediano(tradoj), 0, 'f', 1);
+
+    // Saved answers: every field of every lesson filled, stored as at close,
+    // and loaded again into a freshly built lesson.
+    for (int n = 1; n <= 13; ++n)
+        fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(n))->click();
+    QList<QTabWidget*> lecionoj;
+    for (int n = 1; n <= 13; ++n) {
+        QTabWidget* l = fenestro.leciono(n)->findChild<QTabWidget*>();
+        lecionoj << l;
+        for (QLineEdit* k : l->findChildren<QLineEdit*>())
+            k->setText(QString::fromUtf8("Ĉu vi ŝatas la novan libron, kiun mi aĉetis?"));
+        for (QPlainTextEdit* k : l->findChildren<QPlainTextEdit*>())
+            k->setPlainText(QString::fromUtf8("Unua linio.\nDua linio, kun ĉ kaj ŭ."));
+    }
+    QVector<double> konservoj, sharghoj;
+    for (int i = 0; i < kiom; ++i) {
+        QElapsedTimer t;
+        t.start();
+        for (QTabWidget* l : lecionoj)
+            SxargxasEk(l, true);
+        konservoj << t.nsecsElapsed() / 1e6;
+        for (int n : {1, 7, 13}) {
+            QWidget pagho;
+            lecionkadro kadro(n, &pagho);
+            t.start();
+            SxargxasEk(kadro.langetoj(), false);
+            sharghoj << t.nsecsElapsed() / 1e6;
+        }
+    }
+    el << QStringLiteral("Saved answers: storing all 13 lessons %1 ms, loading one lesson %2 ms\n")
+              .arg(mediano(konservoj), 0, 'f', 1).arg(mediano(sharghoj), 0, 'f', 1);
     el << QStringLiteral("Change of language, apply to home page relabelled: %1 ms\n").arg(mediano(shanghoj), 0, 'f', 1);
     return 0;
 }
