@@ -394,8 +394,6 @@ void Adiau()
         mp3(QStringLiteral("sonoj/") + ujo.entryList().value(random(4)));
 }
 
-namespace {
-
 QString agordoVojo()
 {
     QString loko = savasLoko;
@@ -403,6 +401,31 @@ QString agordoVojo()
         loko += QLatin1Char('/');
     return loko + QStringLiteral("lernilomelo.ini");
 }
+
+QStringList listaVico(QSettings& listo, int grupo)
+{
+    const QString demando = QStringLiteral("?????????");
+    listo.beginGroup(QString::number(grupo));
+    const QStringList vico = {listo.value(QStringLiteral("LingvoID"), QStringLiteral("??")).toString(),
+                              listo.value(QStringLiteral("Lingvo"), demando).toString(),
+                              listo.value(QStringLiteral("DosierNomo"), demando).toString(),
+                              listo.value(QStringLiteral("Dato"), demando).toString()};
+    listo.endGroup();
+    return vico;
+}
+
+QStringList dosieraVico(const QString& nomo, const QString& datoDefaulto)
+{
+    QSettings dosiero(QStringLiteral(":/tradukoj/") + nomo, QSettings::IniFormat);
+    dosiero.setIniCodec("UTF-8");
+    dosiero.beginGroup(QStringLiteral("Traduko"));
+    return {dosiero.value(QStringLiteral("LingvoID"), QStringLiteral("??")).toString(),
+            dosiero.value(QStringLiteral("Lingvo"), QStringLiteral("?????????")).toString(),
+            nomo,
+            dosiero.value(QStringLiteral("Dato"), datoDefaulto).toString()};
+}
+
+namespace {
 
 void trairasPaghon(QWidget* pagho, QSettings& agordoj, bool savas)
 {

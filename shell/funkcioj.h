@@ -12,6 +12,7 @@
 class QWidget;
 class QTabWidget;
 class QProgressBar;
+class QSettings;
 
 // File-name endings of every sound and every video file.
 static const QString mp3_finajho = QStringLiteral(".oga");
@@ -110,6 +111,15 @@ QString helpdosiero(QString kiu);
 // Relabels one lesson from the current translation file: every label by
 // its object name, the arrows and alignments by the file's direction.
 void Trad(QWidget* radiko, QString grupo);
+
+// The settings file, lernilomelo.ini in the writable folder.
+QString agordoVojo();
+
+// A language as a row of texts: LingvoID, Lingvo, file name, Dato. From
+// group `grupo` of the language list (LingvoID "??" where it has none), or
+// from the header of a translation file in the resources.
+QStringList listaVico(QSettings& listo, int grupo);
+QStringList dosieraVico(const QString& nomo, const QString& datoDefaulto);
 
 // A file name from a language list or the settings that may be used inside
 // the writable folder: no folder part, no "..", nothing absolute.

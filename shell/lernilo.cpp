@@ -26,14 +26,6 @@
 
 namespace {
 
-QString agordoDosiero()
-{
-    QString loko = savasLoko;
-    if (!loko.endsWith(QLatin1Char('/')))
-        loko += QLatin1Char('/');
-    return loko + QStringLiteral("lernilomelo.ini");
-}
-
 QString lecionaPagho(int numero)
 {
     return QStringLiteral("Pagho%1").arg(numero, 2, 10, QLatin1Char('0'));
@@ -96,7 +88,7 @@ QFrame* lernilo::leciono(int numero) const
 
 void lernilo::komencakonfiguro()
 {
-    QSettings agordoj(agordoDosiero(), QSettings::IniFormat);
+    QSettings agordoj(agordoVojo(), QSettings::IniFormat);
     agordoj.setIniCodec("UTF-8");
     const QString tiparo = sSistemo == QLatin1String("osx") ? QStringLiteral("Helvetica Neue")
                                                              : QStringLiteral("DejaVu Sans");
@@ -274,19 +266,12 @@ void lernilo::Traduku()
 
 void lernilo::ListigasLingvojn()
 {
-    const QString demando = QStringLiteral("?????????");
     const QString listoVojo = savasLoko + QStringLiteral("traduklisto.ini");
     QSettings listo(listoVojo, QSettings::IniFormat);
     listo.setIniCodec("UTF-8");
-    if (QFile::exists(listoVojo)
-        && listo.value(QStringLiteral("0/LingvoID"), QStringLiteral("??")).toString() != QLatin1String("??")) {
+    if (QFile::exists(listoVojo) && listaVico(listo, 0).at(0) != QLatin1String("??")) {
         for (int i = 0; i < 200; ++i) {
-            listo.beginGroup(QString::number(i));
-            const QStringList vico = {listo.value(QStringLiteral("LingvoID"), QStringLiteral("??")).toString(),
-                                      listo.value(QStringLiteral("Lingvo"), demando).toString(),
-                                      listo.value(QStringLiteral("DosierNomo"), demando).toString(),
-                                      listo.value(QStringLiteral("Dato"), demando).toString()};
-            listo.endGroup();
+            const QStringList vico = listaVico(listo, i);
             if (vico.at(0) == QLatin1String("??"))
                 break;
             if (!sekuraDosierNomo(vico.at(2)))
@@ -297,16 +282,9 @@ void lernilo::ListigasLingvojn()
     }
     for (QDirIterator it(QStringLiteral(":/tradukoj")); it.hasNext();) {
         it.next();
-        const QString nomo = it.fileName();
-        if (!nomo.endsWith(QLatin1String("trd")))
+        if (!it.fileName().endsWith(QLatin1String("trd")))
             continue;
-        QSettings dosiero(QStringLiteral(":/tradukoj/") + nomo, QSettings::IniFormat);
-        dosiero.setIniCodec("UTF-8");
-        dosiero.beginGroup(QStringLiteral("Traduko"));
-        const QStringList vico = {dosiero.value(QStringLiteral("LingvoID"), QStringLiteral("??")).toString(),
-                                  dosiero.value(QStringLiteral("Lingvo"), demando).toString(),
-                                  nomo,
-                                  dosiero.value(QStringLiteral("Dato"), demando).toString()};
+        const QStringList vico = dosieraVico(it.fileName(), QStringLiteral("?????????"));
         lingvoListo.append(vico);
         ui->Lingvo->addItem(vico.at(1));
     }
@@ -510,7 +488,7 @@ void lernilo::Saluton()
 
 void lernilo::SavasKonfig()
 {
-    QSettings agordoj(agordoDosiero(), QSettings::IniFormat);
+    QSettings agordoj(agordoVojo(), QSettings::IniFormat);
     agordoj.setIniCodec("UTF-8");
     agordoj.beginGroup(QStringLiteral("Gxenerala"));
     agordoj.setValue(QStringLiteral("Lingvo"), sLingvo);

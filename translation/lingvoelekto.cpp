@@ -72,20 +72,13 @@ void lingvoelekto::elektasTradukFonton()
     const QString vojo = savasLoko + QStringLiteral("traduklisto.ini");
     QSettings listo(vojo, QSettings::IniFormat);
     listo.setIniCodec("UTF-8");
-    if (!QFile::exists(vojo)
-        || listo.value(QStringLiteral("0/LingvoID"), QStringLiteral("??")).toString() == QLatin1String("??")) {
+    if (!QFile::exists(vojo) || listaVico(listo, 0).at(0) == QLatin1String("??")) {
         komencasElDosierujo();
         return;
     }
-    const QString demando = QStringLiteral("?????????");
     int sistema = -1, angla = -1;
     for (int i = 0; i < 200; ++i) {
-        listo.beginGroup(QString::number(i));
-        const QStringList vico = {listo.value(QStringLiteral("LingvoID"), QStringLiteral("??")).toString(),
-                                  listo.value(QStringLiteral("Lingvo"), demando).toString(),
-                                  listo.value(QStringLiteral("DosierNomo"), demando).toString(),
-                                  listo.value(QStringLiteral("Dato"), demando).toString()};
-        listo.endGroup();
+        const QStringList vico = listaVico(listo, i);
         if (vico.at(0) == QLatin1String("??"))
             break;
         if (!sekuraDosierNomo(vico.at(2)))
@@ -99,16 +92,8 @@ void lingvoelekto::komencasElDosierujo()
 {
     const QDir dosierujo(QStringLiteral(":/tradukoj/"), QStringLiteral("*.trd"), QDir::Name, QDir::Files);
     int sistema = -1, angla = -1;
-    for (const QString& nomo : dosierujo.entryList()) {
-        QSettings dosiero(QStringLiteral(":/tradukoj/") + nomo, QSettings::IniFormat);
-        dosiero.setIniCodec("UTF-8");
-        dosiero.beginGroup(QStringLiteral("Traduko"));
-        const QStringList vico = {dosiero.value(QStringLiteral("LingvoID"), QStringLiteral("??")).toString(),
-                                  dosiero.value(QStringLiteral("Lingvo"), QStringLiteral("?????????")).toString(),
-                                  nomo,
-                                  dosiero.value(QStringLiteral("Dato"), QStringLiteral("10.05.2020")).toString()};
-        aldonas(vico, lingvoj.size(), sistema, angla);
-    }
+    for (const QString& nomo : dosierujo.entryList())
+        aldonas(dosieraVico(nomo, QStringLiteral("10.05.2020")), lingvoj.size(), sistema, angla);
     elektas(sistema, angla);
 }
 
