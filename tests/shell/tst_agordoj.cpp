@@ -24,6 +24,7 @@ private slots:
     void cleanup();
     void defaultojSenDosiero();
     void legasKajSkribasChiujn();
+    void damaghitaDosiero();
     void aplikoEbligataKajMalebligata();
     void glitiloKajNombrujoSamtempe();
     void tiparojAtingasStilon();
@@ -123,6 +124,35 @@ void tst_agordoj::legasKajSkribasChiujn()
     QCOMPARE(b.value("Cxapeligo").toBool(), true);
     QCOMPARE(b.value("LiterGrandoEo").toInt(), 15);
     QCOMPARE(b.value("Dosiero").toString(), QStringLiteral("angla.trd"));
+}
+
+void tst_agordoj::damaghitaDosiero()
+{
+    // Odd values: the course asks for the language again, and a resume point
+    // out of range does nothing.
+    QFile f(savasLoko + "lernilomelo.ini");
+    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write("[Gxenerala]\nLiterGrando=abc\nLastaLeciono=99\nLastaPagxo=-5\n"
+            "Dosiero=../../etc/passwd\nLingvo=x\n");
+    f.close();
+    klakasEnDialogo("pushButton");
+    malfermas();
+    QCOMPARE(sTradukoDosiero, QStringLiteral("angla.trd"));
+    QCOMPARE(iLiterGrando, 11);
+    trovas<QAbstractButton>("KieButono")->click();
+    QCOMPARE(trovas<QStackedWidget>("Paghujo")->currentIndex(), 0);
+    delete fenestro;
+    fenestro = nullptr;
+
+    // A file that is no settings file at all reads as no file.
+    QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
+    f.write(QByteArray("\x00\xff\xfe[Gxenerala\n\x01LastaLeciono=99\n", 30));
+    f.close();
+    klakasEnDialogo("pushButton");
+    malfermas();
+    QCOMPARE(LastaLeciono, 1);
+    QCOMPARE(iLiterGrandoEo, 11);
+    QCOMPARE(sTiparo, QStringLiteral("DejaVu Sans"));
 }
 
 void tst_agordoj::aplikoEbligataKajMalebligata()
