@@ -14,18 +14,10 @@
 #include "neklakebla_nova.h"
 #include "titolo.h"
 
-#if __has_include("ekzerco1.h")
 #include "ekzerco1.h"
-#endif
-#if __has_include("frazokonstruo.h")
 #include "frazokonstruo.h"
-#endif
-#if __has_include("plenigas_spacon.h")
 #include "plenigas_spacon.h"
-#endif
-#if __has_include("vortoludo.h")
 #include "vortoludo.h"
-#endif
 
 #include <QFrame>
 #include <QHash>
@@ -69,18 +61,10 @@ const QHash<QString, Fabriko>& fabrikoj()
         {QStringLiteral("sendujo"), &faras<sendujo>},
         {QStringLiteral("sendas_butono"), &faras<sendas_butono>},
         {QStringLiteral("korekta_butono"), &faras<korekta_butono>},
-#if __has_include("ekzerco1.h")
         {QStringLiteral("ekzerco1"), &faras<ekzerco1>},
-#endif
-#if __has_include("frazokonstruo.h")
         {QStringLiteral("frazokonstruo"), &faras<frazokonstruo>},
-#endif
-#if __has_include("plenigas_spacon.h")
         {QStringLiteral("plenigas_spacon"), &faras<plenigas_spacon>},
-#endif
-#if __has_include("vortoludo.h")
         {QStringLiteral("vortoludo"), &faras<vortoludo>},
-#endif
     };
     return listo;
 }
@@ -95,18 +79,6 @@ const QHash<QString, Fabriko>& anstatauantoj()
         {QStringLiteral("audkompreno"), &faras<QFrame>},
         {QStringLiteral("akuzativo"), &faras<QFrame>},
         {QStringLiteral("prononco"), &faras<QFrame>},
-#if !__has_include("ekzerco1.h")
-        {QStringLiteral("ekzerco1"), &faras<QFrame>},
-#endif
-#if !__has_include("frazokonstruo.h")
-        {QStringLiteral("frazokonstruo"), &faras<QFrame>},
-#endif
-#if !__has_include("plenigas_spacon.h")
-        {QStringLiteral("plenigas_spacon"), &faras<QFrame>},
-#endif
-#if !__has_include("vortoludo.h")
-        {QStringLiteral("vortoludo"), &faras<QFrame>},
-#endif
     };
     return listo;
 }

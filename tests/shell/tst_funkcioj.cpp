@@ -1,7 +1,10 @@
 #include "funkcioj.h"
 
 #include <QCoreApplication>
+#include <QLabel>
+#include <QRadioButton>
 #include <QStandardPaths>
+#include <QTemporaryDir>
 #include <QtTest>
 
 class tst_funkcioj : public QObject
@@ -20,6 +23,13 @@ private slots:
     void purigas();
     void sonoNomoj_data();
     void sonoNomoj();
+    void matriz2PlenigasVicojn();
+    void matrizLegasTradukon();
+    void mankantaGrupo();
+    void limigo_data();
+    void limigo();
+    void tekstoblinko_data();
+    void tekstoblinko();
 };
 
 void tst_funkcioj::kiuSistemo_data()
@@ -160,5 +170,124 @@ void tst_funkcioj::sonoNomoj()
     QCOMPARE(frazoSono("07", "254"), QStringLiteral("sonoj/lec07/btn254.oga"));
 }
 
-QTEST_GUILESS_MAIN(tst_funkcioj)
+// The first key of a group whose raw value in the shipped file is `valoro`.
+static int shlosiloKun(const QString& dosiero, const QString& grupo, const QString& valoro)
+{
+    QFile f(QStringLiteral(LERNILO_FONTOJ "/resources/ekzercoj/") + dosiero);
+    if (!f.open(QIODevice::ReadOnly))
+        return -1;
+    bool ene = false;
+    for (const QString& vico : QString::fromUtf8(f.readAll()).split(QLatin1Char('\n'))) {
+        const QString v = vico.trimmed();
+        if (v.startsWith(QLatin1Char('[')))
+            ene = v == QLatin1Char('[') + grupo + QLatin1Char(']');
+        else if (ene && v.section(QLatin1Char('='), 1) == valoro)
+            return v.section(QLatin1Char('='), 0, 0).toInt();
+    }
+    return -1;
+}
+
+void tst_funkcioj::matriz2PlenigasVicojn()
+{
+    const int k = shlosiloKun(QStringLiteral("ekz02.dat"), QStringLiteral("0202R"), QStringLiteral("~~~~1"));
+    QVERIFY(k >= 0);
+    QList<QStringList> vicoj{{QStringLiteral("malnova")}};
+    QCOMPARE(_Matriz2(&vicoj, QStringLiteral("0202"), QStringLiteral("R"), 6), 28);
+    QCOMPARE(vicoj.size(), 28);
+    QCOMPARE(vicoj.at(k), QStringList({"", "", "", "", "1", ""}));
+
+    // A row longer than the width keeps all its fields.
+    _Matriz2(&vicoj, QStringLiteral("0202"), QStringLiteral("R"), 2);
+    QCOMPARE(vicoj.at(k).size(), 5);
+}
+
+void tst_funkcioj::matrizLegasTradukon()
+{
+    QTemporaryDir ujo;
+    QDir().mkpath(ujo.path() + QStringLiteral("/tradukoj"));
+    QFile f(ujo.path() + QStringLiteral("/tradukoj/provo.trd"));
+    QVERIFY(f.open(QIODevice::WriteOnly));
+    f.write("[Ekzerco-0502]\r\n"
+            "0=\"\xC5\x9Ci estas ~ bela, ~ inteligenta.\"\r\n"
+            "1=\"Li diris \\\"jes\\\"; ni iris.\"\r\n"
+            "2=Simpla frazo.\r\n");
+    f.close();
+    const QString loko = Loko;
+    Loko = ujo.path() + QLatin1Char('/');
+    sTradukoDosiero = QStringLiteral("provo.trd");
+
+    QStringList tradukoj{QStringLiteral("malnova")};
+    QCOMPARE(_Matriz(&tradukoj, QStringLiteral("0502"), QStringLiteral("T")), 3);
+    QCOMPARE(tradukoj, QStringList({QString::fromUtf8("Ŝi estas ~ bela, ~ inteligenta."),
+                                    "Li diris \"jes\"; ni iris.", "Simpla frazo."}));
+    QCOMPARE(_Matriz(&tradukoj, QStringLiteral("0602"), QStringLiteral("T")), 0);
+    QVERIFY(tradukoj.isEmpty());
+
+    Loko = loko;
+    sTradukoDosiero.clear();
+}
+
+void tst_funkcioj::mankantaGrupo()
+{
+    QStringList l{QStringLiteral("malnova")};
+    QCOMPARE(_Matriz(&l, QStringLiteral("0199"), QStringLiteral("D")), 0);
+    QVERIFY(l.isEmpty());
+    QList<QStringList> vicoj{{QStringLiteral("malnova")}};
+    QCOMPARE(_Matriz2(&vicoj, QStringLiteral("1399"), QStringLiteral("D"), 6), 0);
+    QVERIFY(vicoj.isEmpty());
+}
+
+void tst_funkcioj::limigo_data()
+{
+    QTest::addColumn<int>("n");
+    QTest::addColumn<int>("atendo");
+    QTest::newRow("below") << 39 << 39;
+    QTest::newRow("at") << 40 << 40;
+    QTest::newRow("above") << 95 << 40;
+}
+
+void tst_funkcioj::limigo()
+{
+    QFETCH(int, n);
+    QFETCH(int, atendo);
+    QCOMPARE(::limigo(n), atendo);
+}
+
+void tst_funkcioj::tekstoblinko_data()
+{
+    QTest::addColumn<bool>("radio");
+    QTest::addColumn<bool>("pikseloj");
+    QTest::addColumn<QString>("atendo");
+    QTest::newRow("label in points") << false << false << "font-weight: bold; color: red; font-size: 13pt";
+    QTest::newRow("label in pixels") << false << true << "font-weight: bold; color: red; font-size: 17px";
+    QTest::newRow("radio button") << true << false << "background: lightBlue;";
+}
+
+void tst_funkcioj::tekstoblinko()
+{
+    QFETCH(bool, radio);
+    QFETCH(bool, pikseloj);
+    QFETCH(QString, atendo);
+    QScopedPointer<QWidget> w(radio ? static_cast<QWidget*>(new QRadioButton(QStringLiteral("domo")))
+                                    : new QLabel(QStringLiteral("domo")));
+    QFont tiparo = w->font();
+    if (pikseloj)
+        tiparo.setPixelSize(17);
+    else
+        tiparo.setPointSize(13);
+    w->setFont(tiparo);
+    w->setStyleSheet(QStringLiteral("color: green;"));
+
+    const int numSec = NumSec;
+    NumSec = 1;
+    QString dumBlinko;
+    QTimer::singleShot(100, [&] { dumBlinko = w->styleSheet(); });
+    ::tekstoblinko(w.data());
+    NumSec = numSec;
+
+    QVERIFY2(dumBlinko.startsWith(atendo), qPrintable(dumBlinko));
+    QCOMPARE(w->styleSheet(), QStringLiteral("color: green;"));
+}
+
+QTEST_MAIN(tst_funkcioj)
 #include "tst_funkcioj.moc"

@@ -7,6 +7,8 @@
 #include "testaj_helpoj.h"
 #include "tradukeroj.h"
 
+#include <QAbstractButton>
+#include <QLabel>
 #include <QSettings>
 #include <QTabWidget>
 #include <QtTest>
@@ -19,6 +21,8 @@ private slots:
     void initTestCase();
     void kompletaj_data();
     void kompletaj();
+    void ekzercajTekstoj_data();
+    void ekzercajTekstoj();
     void anglajMesaghoj();
 
 private:
@@ -79,6 +83,40 @@ void tst_tradukoj_kompletaj::kompletaj()
             mankas << sh;
     }
     QVERIFY2(mankas.isEmpty(), qPrintable(mankas.join(", ")));
+}
+
+void tst_tradukoj_kompletaj::ekzercajTekstoj_data()
+{
+    QTest::addColumn<QString>("dosiero");
+    QTest::newRow("English") << "angla.trd";
+    QTest::newRow("Portuguese") << "portugala.trd";
+}
+
+// The exercises of lessons 1 and 2 as a learner sees them in a language:
+// every heading and instruction relabelled, and no button with a text that
+// would stay in the language of the forms.
+void tst_tradukoj_kompletaj::ekzercajTekstoj()
+{
+    QFETCH(QString, dosiero);
+    sTradukoDosiero = dosiero;
+    const QStringList instrukcioj = {"Ekz_Vort1", "Ekz_Vort2", "Ekz_Plen1", "Ekz_Plen2", "Ekz_FrazoKonstruo"};
+    QSet<QString> trovitaj;
+    for (int n : {1, 2}) {
+        QWidget pagho;
+        lecionkadro kadro(n, &pagho);
+        Trad(kadro.langetoj(), kadro.langetoj()->objectName());
+        for (QLabel* l : kadro.findChildren<QLabel*>()) {
+            if (!instrukcioj.contains(l->objectName()))
+                continue;
+            trovitaj << l->objectName();
+            QVERIFY2(l->text() != QLatin1String("Ne Tradukita") && !l->text().isEmpty(), qPrintable(l->objectName()));
+        }
+        for (QAbstractButton* b : kadro.findChildren<QAbstractButton*>()) {
+            if (b->property("tipo").isValid())
+                QVERIFY2(b->text().isEmpty(), qPrintable(b->objectName() + ": " + b->text()));
+        }
+    }
+    QCOMPARE(trovitaj.size(), instrukcioj.size());
 }
 
 void tst_tradukoj_kompletaj::anglajMesaghoj()
