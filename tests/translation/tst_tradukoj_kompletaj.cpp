@@ -37,7 +37,9 @@ void tst_tradukoj_kompletaj::initTestCase()
         QWidget pagho;
         lecionkadro kadro(n, &pagho);
         for (const Tradukero& t : tradukeroj::deLeciono(kadro.langetoj())) {
-            if (!t.teksto.isEmpty()) {
+            // The instruction of a gap exercise comes with the exercise, not
+            // with the lesson's own text.
+            if (!t.teksto.isEmpty() && !t.shlosilo.endsWith(QLatin1String(".Label84"))) {
                 enhavaj << kadro.langetoj()->objectName();
                 break;
             }
