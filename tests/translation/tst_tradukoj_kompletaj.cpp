@@ -21,6 +21,8 @@ private slots:
     void initTestCase();
     void kompletaj_data();
     void kompletaj();
+    void nenioNetradukita_data();
+    void nenioNetradukita();
     void ekzercajTekstoj_data();
     void ekzercajTekstoj();
     void anglajMesaghoj();
@@ -85,6 +87,32 @@ void tst_tradukoj_kompletaj::kompletaj()
             mankas << sh;
     }
     QVERIFY2(mankas.isEmpty(), qPrintable(mankas.join(", ")));
+}
+
+void tst_tradukoj_kompletaj::nenioNetradukita_data()
+{
+    kompletaj_data();
+}
+
+// What the learner reads on every written lesson, once relabelled: no
+// label left with the default of a missing key, no empty heading.
+void tst_tradukoj_kompletaj::nenioNetradukita()
+{
+    QFETCH(QString, dosiero);
+    sTradukoDosiero = dosiero;
+    QStringList malbonaj;
+    for (const QString& grupo : qAsConst(enhavaj)) {
+        QWidget pagho;
+        lecionkadro kadro(grupo.right(2).toInt(), &pagho);
+        Trad(kadro.langetoj(), grupo);
+        for (QLabel* l : kadro.findChildren<QLabel*>()) {
+            const bool titolo = qstrcmp(l->metaObject()->className(), "titolo") == 0
+                                && l->objectName().startsWith(grupo);   // not the word of a game
+            if (l->text() == QLatin1String("Ne Tradukita") || (titolo && l->text().trimmed().isEmpty()))
+                malbonaj << grupo + QLatin1Char('/') + l->objectName();
+        }
+    }
+    QVERIFY2(malbonaj.isEmpty(), qPrintable(malbonaj.join(", ")));
 }
 
 void tst_tradukoj_kompletaj::ekzercajTekstoj_data()
