@@ -15,6 +15,9 @@
 
 namespace {
 
+// Characters of a word or sentence beyond which it may wrap.
+const int longaFrazo = 45;
+
 Qt::Alignment vicigoDe(const QString& priskribo)
 {
     Qt::Alignment a;
@@ -82,6 +85,11 @@ QWidget* Konstruanto::faras(const LecionEro& e, QWidget* gepatro)
             amikoj.append({etikedo, e.atributoj.value(QStringLiteral("amiko"))});
         if (e.havasTekston)
             etikedo->setText(e.teksto);
+        // A long sentence wraps instead of widening its page; a short word
+        // keeps to one line, where wrapping would only narrow its row.
+        const bool vorto = e.klaso == QLatin1String("klakbutono_nova") || e.klaso == QLatin1String("neklakebla_nova");
+        if (vorto && !e.atributoj.contains(QStringLiteral("faldo")) && e.teksto.size() > longaFrazo)
+            etikedo->setWordWrap(true);
     } else if (e.havasTekston) {
         if (auto* butono = qobject_cast<QAbstractButton*>(w))
             butono->setText(e.teksto);

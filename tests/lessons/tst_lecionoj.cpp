@@ -5,7 +5,11 @@
 #include "klasregistro.h"
 #include "lecionfonto.h"
 #include "lecionkadro.h"
+#include "lernilo.h"
 #include "testaj_helpoj.h"
+
+#include <QAbstractButton>
+#include <QScrollBar>
 
 #include <QLabel>
 #include <QLayout>
@@ -243,6 +247,8 @@ private slots:
     void strukturo();
     void ekzercajNomoj();
     void skribajPaghoj();
+    void nenioElstaras_data();
+    void nenioElstaras();
 
 private:
     QTemporaryDir ujo;
@@ -271,19 +277,25 @@ void tst_lecionoj::fontojSenEraroj()
     QCOMPARE(f.numero.toInt(), numero);
 }
 
-// The lesson's own scroll areas; an exercise may scroll inside its form too.
-static int lecionajRulumoj(const QWidget& kadro)
+// Whether a widget lies inside an exercise's own form.
+static bool enEkzerco(const QWidget* w)
 {
     static const QStringList ekzercoj{"ekzerco1", "frazokonstruo", "plenigas_spacon",
                                       "vortoludo", "ekznumeraloj", "kiomahoro",
                                       "audkompreno", "akuzativo", "prononco"};
-    int n = 0;
-    for (const QScrollArea* r : kadro.findChildren<QScrollArea*>()) {
-        bool enEkzerco = false;
-        for (const QWidget* w = r->parentWidget(); w && w != &kadro; w = w->parentWidget())
-            enEkzerco = enEkzerco || ekzercoj.contains(QLatin1String(w->metaObject()->className()));
-        n += enEkzerco ? 0 : 1;
+    for (const QWidget* s = w->parentWidget(); s; s = s->parentWidget()) {
+        if (ekzercoj.contains(QLatin1String(s->metaObject()->className())))
+            return true;
     }
+    return false;
+}
+
+// The lesson's own scroll areas; an exercise may scroll inside its form too.
+static int lecionajRulumoj(const QWidget& kadro)
+{
+    int n = 0;
+    for (const QScrollArea* r : kadro.findChildren<QScrollArea*>())
+        n += enEkzerco(r) ? 0 : 1;
     return n;
 }
 
@@ -402,6 +414,52 @@ void tst_lecionoj::skribajPaghoj()
     QCOMPARE(sendas.size(), 19);
     QCOMPARE(solaButono, QStringList() << "Sendas1_Lec09" << "Sendas1_Lec10" << "Sendas2_Lec10"
                                        << "Sendas3_Lec10" << "Sendas1_Lec12" << "Sendas5_Lec13");
+}
+
+// The names of the widgets of a page that reach beyond its visible width.
+static QString plejLargha(QScrollArea* r)
+{
+    QStringList nomoj;
+    const int largho = r->viewport()->width();
+    for (QWidget* w : r->widget()->findChildren<QWidget*>()) {
+        const int dekstre = w->mapTo(r->widget(), QPoint(w->width(), 0)).x();
+        if (dekstre > largho && !w->objectName().isEmpty() && w->isVisible())
+            nomoj << w->objectName();
+    }
+    return nomoj.join(' ');
+}
+
+void tst_lecionoj::nenioElstaras_data()
+{
+    QTest::addColumn<int>("numero");
+    for (int n = 1; n <= 7; ++n)
+        QTest::newRow(qPrintable(QStringLiteral("lesson %1").arg(n))) << n;
+}
+
+// At the window's first size every page reads from top to bottom: no text
+// wider than the page that would need scrolling sideways. (The letter table
+// of lesson 1 scrolls sideways inside its page on purpose.)
+void tst_lecionoj::nenioElstaras()
+{
+    QFETCH(int, numero);
+    QTemporaryDir hejmo;
+    preparasLerninton(hejmo);
+    lernilo fenestro;
+    fenestro.show();
+    fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(numero))->click();
+    QTabWidget* langetoj = fenestro.leciono(numero)->findChild<QTabWidget*>();
+    QStringList larghaj;
+    for (int i = 0; i < langetoj->count(); ++i) {
+        langetoj->setCurrentIndex(i);
+        QApplication::processEvents();
+        for (QScrollArea* r : langetoj->widget(i)->findChildren<QScrollArea*>()) {
+            const bool ena = r->parentWidget()->parentWidget()->parentWidget()->inherits("QScrollArea");
+            if (!ena && !enEkzerco(r) && r->horizontalScrollBar()->maximum() > 0)
+                larghaj << QStringLiteral("%1 (%2 px too wide: %3)").arg(langetoj->widget(i)->objectName())
+                               .arg(r->horizontalScrollBar()->maximum()).arg(plejLargha(r));
+        }
+    }
+    QVERIFY2(larghaj.isEmpty(), qPrintable(larghaj.join(", ")));
 }
 
 QTEST_MAIN(tst_lecionoj)
