@@ -1,15 +1,13 @@
 #include "plenigas_spacon.h"
 #include "ui_plenigas_spacon.h"
 
+#include "ekzercfolio.h"
 #include "funkcioj.h"
 
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QLayout>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QTextDocument>
 
 plenigas_spacon::plenigas_spacon(QWidget* parent)
     : QFrame(parent)
@@ -248,25 +246,15 @@ void plenigas_spacon::on_Edit5_returnPressed()
 // and leaves a run as it is.
 void plenigas_spacon::on_printilo_ps_clicked()
 {
-    const QChar LRM(0x200E), PDF(0x202C), LRE(0x202A);
+    ekzercfolio::presas(objectName(), [this] { return folio(); });
+}
 
-    QPrinter printilo(QPrinter::HighResolution);
-    printilo.setDocName(objectName());
-    QPrintDialog dialogo(&printilo);
-    if (dialogo.exec() != QDialog::Accepted)
-        return;
-
+QString plenigas_spacon::folio() const
+{
+    const QChar PDF(0x202C), LRE(0x202A);
     const bool dekstre = Direkto == QLatin1String("RTL");
-    const QFont tiparo = parentWidget() ? parentWidget()->font() : font();
-    // Style sheets set fonts in pixels; a font in points is taken as it is.
-    const int grando = tiparo.pixelSize() > 0 ? qRound(tiparo.pixelSize() / 1.33333) : tiparo.pointSize();
-    QString korpo = QStringLiteral("<body dir=") + Direkto + QStringLiteral(" style=\" font-family:'") + tiparo.family()
-                    + QStringLiteral("'; font-size:") + QString::number(grando)
-                    + QStringLiteral("pt; font-weight:400; font-style:normal;\">");
-    korpo += QStringLiteral("<P><h2>Lernilo   -   ") + objectName() + QStringLiteral("   (") + sServilo
-             + QLatin1Char(')') + LRM + QStringLiteral("</h2></P>");
-    korpo += QStringLiteral("<P><B>") + ui->Ekz_Plen1->text() + QStringLiteral("</B></P>");
-    korpo += QStringLiteral("<P>") + ui->Ekz_Plen2->text() + QStringLiteral("</P><P>&nbsp;</P>");
+    QString korpo = ekzercfolio::kapo(this, QStringLiteral("<body dir="), {ui->Ekz_Plen1->text()},
+                                      ui->Ekz_Plen2->text(), QStringLiteral("</P><P>&nbsp;</P>"));
 
     const QString id = objectName().right(4);
     QList<QStringList> fragmentaro, respondaro;
@@ -308,9 +296,5 @@ void plenigas_spacon::on_printilo_ps_clicked()
     }
     korpo += QStringLiteral("</ol>");
     solvoj += QStringLiteral("</P></body>");
-
-    QTextDocument dokumento;
-    dokumento.setHtml(korpo + solvoj);
-    dokumento.adjustSize();
-    dokumento.print(&printilo);
+    return korpo + solvoj;
 }

@@ -54,6 +54,7 @@ private slots:
     void on_printilo_ps_clicked();
 
 private:
+    QString folio() const;   // the paper sheet of the whole exercise, as HTML
     // Return in field k (0 to 4): on to the next field in use, or Check.
     void revenas(int k);
     QLabel* vorto(int k) const { return etikedoj.at(2 * k); }

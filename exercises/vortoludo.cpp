@@ -1,14 +1,12 @@
 #include "vortoludo.h"
 #include "ui_vortoludo.h"
 
+#include "ekzercfolio.h"
 #include "funkcioj.h"
 #include "klakbutono_nova.h"
 #include "neklakebla_nova.h"
 
-#include <QPrintDialog>
-#include <QPrinter>
 #include <QRadioButton>
-#include <QTextDocument>
 #include <QVector>
 
 namespace {
@@ -229,25 +227,15 @@ void vortoludo::grupoclick(int j)
 // meanings at the end. It reads the data itself and leaves a run as it is.
 void vortoludo::on_printilo_ps_clicked()
 {
+    ekzercfolio::presas(objectName(), [this] { return folio(); });
+}
+
+QString vortoludo::folio() const
+{
     const QChar LRM(0x200E), PDF(0x202C), RLE(0x202B), LRE(0x202A), RLO(0x202E);
-
-    QPrinter printilo(QPrinter::HighResolution);
-    printilo.setDocName(objectName());
-    QPrintDialog dialogo(&printilo);
-    if (dialogo.exec() != QDialog::Accepted)
-        return;
-
     const bool ltr = Direkto == QLatin1String("LTR");
-    const QFont tiparo = parentWidget() ? parentWidget()->font() : font();
-    // Style sheets set fonts in pixels; a font in points is taken as it is.
-    const int grando = tiparo.pixelSize() > 0 ? qRound(tiparo.pixelSize() / 1.33333) : tiparo.pointSize();
-    QString korpo = QStringLiteral("<body  dir=") + Direkto + QStringLiteral(" style=\" font-family:'") + tiparo.family()
-                    + QStringLiteral("'; font-size:") + QString::number(grando)
-                    + QStringLiteral("pt; font-weight:400; font-style:normal;\">");
-    korpo += QStringLiteral("<P><h2>Lernilo   -   ") + objectName() + QStringLiteral("   (") + sServilo
-             + QLatin1Char(')') + LRM + QStringLiteral("</h2></P>");
-    korpo += QStringLiteral("<P><B>") + ui->Ekz_Vort1->text() + QStringLiteral("</B></P>");
-    korpo += QStringLiteral("<P>") + ui->Ekz_Vort2->text() + QStringLiteral("</P><P>&nbsp;</P>");
+    QString korpo = ekzercfolio::kapo(this, QStringLiteral("<body  dir="), {ui->Ekz_Vort1->text()},
+                                      ui->Ekz_Vort2->text(), QStringLiteral("</P><P>&nbsp;</P>"));
 
     const QString id = objectName().right(4);
     QStringList vortoj, signifoj;
@@ -314,9 +302,5 @@ void vortoludo::on_printilo_ps_clicked()
     }
     korpo += QStringLiteral("</table>");
     solvoj += QStringLiteral("</P></body>");
-
-    QTextDocument dokumento;
-    dokumento.setHtml(korpo + solvoj);
-    dokumento.adjustSize();
-    dokumento.print(&printilo);
+    return korpo + solvoj;
 }

@@ -61,6 +61,7 @@ public slots:
     void on_printilo_ps_clicked();
 
 private:
+    QString folio() const;   // the paper sheet of the whole exercise, as HTML
     void malmarkas(int j);
 
     Ui::vortoludo* ui;
