@@ -26,8 +26,6 @@ private slots:
     void matriz2PlenigasVicojn();
     void matrizLegasTradukon();
     void mankantaGrupo();
-    void limigo_data();
-    void limigo();
     void tekstoblinko_data();
     void tekstoblinko();
 };
@@ -235,22 +233,6 @@ void tst_funkcioj::mankantaGrupo()
     QList<QStringList> vicoj{{QStringLiteral("malnova")}};
     QCOMPARE(_Matriz2(&vicoj, QStringLiteral("1399"), QStringLiteral("D"), 6), 0);
     QVERIFY(vicoj.isEmpty());
-}
-
-void tst_funkcioj::limigo_data()
-{
-    QTest::addColumn<int>("n");
-    QTest::addColumn<int>("atendo");
-    QTest::newRow("below") << 39 << 39;
-    QTest::newRow("at") << 40 << 40;
-    QTest::newRow("above") << 95 << 40;
-}
-
-void tst_funkcioj::limigo()
-{
-    QFETCH(int, n);
-    QFETCH(int, atendo);
-    QCOMPARE(::limigo(n), atendo);
 }
 
 void tst_funkcioj::tekstoblinko_data()
