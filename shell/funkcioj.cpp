@@ -43,6 +43,7 @@ int LastaPagxo = 1;
 
 int Ofteco = 400;
 int NumSec = 3;
+int iMsEnSekundo = 1000;
 
 QString sLingvo;
 QString sLingvoID;
@@ -286,7 +287,7 @@ void Pauzu(int sekundoj)
     // A busy wait on purpose: the window repaints and takes clicks meanwhile.
     QElapsedTimer tempo;
     tempo.start();
-    while (tempo.elapsed() < qint64(sekundoj) * 1000)
+    while (tempo.elapsed() < qint64(sekundoj) * iMsEnSekundo)
         QCoreApplication::processEvents();
 }
 
@@ -650,12 +651,12 @@ void tekstoblinko(QWidget* w)
     int k = 0;
     for (;;) {
         QCoreApplication::processEvents();
-        if (tempo.elapsed() > qint64(Ofteco) * k) {
+        if (tempo.elapsed() > qint64(Ofteco) * k * iMsEnSekundo / 1000) {
             ++k;
             w->setStyleSheet(k % 2 ? unua : dua);
             w->update();
         }
-        if (tempo.elapsed() >= qint64(NumSec) * 1000) {
+        if (tempo.elapsed() >= qint64(NumSec) * iMsEnSekundo) {
             w->setStyleSheet(antaua);
             return;
         }

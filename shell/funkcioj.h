@@ -31,6 +31,8 @@ extern int LastaPagxo;
 // Blinking of a right answer: interval in ms and length in seconds.
 extern int Ofteco;
 extern int NumSec;
+// Milliseconds in one second of waiting (Pauzu, the blink): tests shorten it.
+extern int iMsEnSekundo;
 
 // The language in use.
 extern QString sLingvo;
