@@ -24,6 +24,9 @@ akuzativo::akuzativo(QWidget* parent)
         etikedo->setCursor(QCursor(n, -1, -1));
         fluo->addWidget(etikedo);
     }
+    // The sentence stands on the exercise's own background, as in the others.
+    ui->scrollArea->viewport()->setAutoFillBackground(false);
+    ui->scrollAreaWidgetContents->setAutoFillBackground(false);
     QScroller::grabGesture(ui->scrollArea->viewport(), QScroller::LeftMouseButtonGesture);
 }
 
