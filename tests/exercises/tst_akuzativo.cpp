@@ -117,6 +117,7 @@ void tst_akuzativo::nenioMarkenda()
 // in the run.
 void tst_akuzativo::forgesitaVortoBlinkas()
 {
+    iMsEnSekundo = 50;   // a few turns of red and white
     Leciono l;
     l.unuFrazo("La~filo~amas~la~patrino", "~~~~1", "2~0~3~2~4");
     QSet<QString> objekto, aliaj;
@@ -133,7 +134,7 @@ void tst_akuzativo::forgesitaVortoBlinkas()
     klakas(butono(l.e, "BitBtn2"));
     gardisto.stop();
 
-    QCOMPARE(objekto, QSet<QString>({"color: rgb(200, 0, 0);", "color: rgb(255, 255, 255);"}));
+    QVERIFY(objekto.contains("color: rgb(200, 0, 0);") && objekto.contains("color: rgb(255, 255, 255);"));
     QCOMPARE(aliaj, QSet<QString>({nigra}));
     QVERIFY(!butonoj);
     QCOMPARE(placar(l.e, 3), 1);
