@@ -95,7 +95,7 @@ void tst_akuzativo::init()
 void tst_akuzativo::nenioMarkenda()
 {
     Leciono l;
-    l.unuFrazo("La~kato~estas~nigra", "~~~", "2~0~3~10");
+    l.unuFrazo("La~kato~estas~nigra", "~~~~~~~~~~1", "2~0~3~10");   // no eleventh word to mark
     QCOMPARE(frazo(l.e), QStringList({"La", "kato", "estas", "nigra"}));
     QString verdikto;
     akceptasMesaghon(&verdikto);
