@@ -14,8 +14,11 @@
 #include "neklakebla_nova.h"
 #include "titolo.h"
 
+#include "akuzativo.h"
 #include "ekzerco1.h"
+#include "ekznumeraloj.h"
 #include "frazokonstruo.h"
+#include "kiomahoro.h"
 #include "plenigas_spacon.h"
 #include "vortoludo.h"
 
@@ -65,6 +68,9 @@ const QHash<QString, Fabriko>& fabrikoj()
         {QStringLiteral("frazokonstruo"), &faras<frazokonstruo>},
         {QStringLiteral("plenigas_spacon"), &faras<plenigas_spacon>},
         {QStringLiteral("vortoludo"), &faras<vortoludo>},
+        {QStringLiteral("ekznumeraloj"), &faras<ekznumeraloj>},
+        {QStringLiteral("kiomahoro"), &faras<kiomahoro>},
+        {QStringLiteral("akuzativo"), &faras<akuzativo>},
     };
     return listo;
 }
@@ -74,10 +80,7 @@ const QHash<QString, Fabriko>& anstatauantoj()
 {
     static const QHash<QString, Fabriko> listo = {
         {QStringLiteral("mp3ludilo"), &faras<QFrame>},
-        {QStringLiteral("ekznumeraloj"), &faras<QFrame>},
-        {QStringLiteral("kiomahoro"), &faras<QFrame>},
         {QStringLiteral("audkompreno"), &faras<QFrame>},
-        {QStringLiteral("akuzativo"), &faras<QFrame>},
         {QStringLiteral("prononco"), &faras<QFrame>},
     };
     return listo;
