@@ -15,6 +15,8 @@
 #include <QScroller>
 #include <QSettings>
 #include <QSignalBlocker>
+#include <QTextDocument>
+#include <QTextOption>
 #include <QUrl>
 
 namespace {
@@ -358,7 +360,11 @@ void traduko::on_horizontalSlider_valueChanged(int grando)
 
 void traduko::on_direktoRTL_toggled(bool dekstre)
 {
-    ui->Memo1->setLayoutDirection(dekstre ? Qt::RightToLeft : Qt::LeftToRight);
+    const Qt::LayoutDirection direkto = dekstre ? Qt::RightToLeft : Qt::LeftToRight;
+    ui->Memo1->setLayoutDirection(direkto);
+    QTextOption opcio = ui->Memo1->document()->defaultTextOption();
+    opcio.setTextDirection(direkto);
+    ui->Memo1->document()->setDefaultTextOption(opcio);
 }
 
 void traduko::on_pushButton_clicked()

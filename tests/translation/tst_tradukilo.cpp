@@ -8,6 +8,7 @@
 #include "traduko.h"
 
 #include <QAbstractButton>
+#include <QCheckBox>
 #include <QComboBox>
 #include <QDate>
 #include <QLabel>
@@ -133,6 +134,7 @@ void tst_tradukilo::savasKajRevenas()
         memo->setPlainText("Esperanto, jezik za vse");
         klakas(d, "Button2");
         QVERIFY(pozicio(d).startsWith("Pozicio: 3 / "));
+        d->findChild<QCheckBox*>("direktoRTL")->setChecked(true);
         d->findChild<QAbstractButton*>("pushButton")->click();
         QVERIFY(!d->isVisible());
     }
@@ -144,6 +146,7 @@ void tst_tradukilo::savasKajRevenas()
     QCOMPARE(trd.value("Lec02/Label9999").toString(), QStringLiteral("kept"));
     QCOMPARE(trd.value("Traduko/LingvoID").toString(), QStringLiteral("sl"));
     QCOMPARE(trd.value("Traduko/Tradukinto").toString(), QStringLiteral("Ana Novak"));
+    QCOMPARE(trd.value("Traduko/Direkto").toString(), QStringLiteral("RTL"));
 
     QSettings listo(savasLoko + "traduklisto.ini", QSettings::IniFormat);
     listo.setIniCodec("UTF-8");
@@ -157,6 +160,7 @@ void tst_tradukilo::savasKajRevenas()
     QCOMPARE(d->findChild<QComboBox*>("Listo")->currentText(), QStringLiteral("Lec02"));
     QVERIFY2(pozicio(d).startsWith("Pozicio: 3 / "), qPrintable(pozicio(d)));
     QCOMPARE(d->findChild<QLineEdit*>("Edit2")->text(), QStringLiteral("Ana Novak"));
+    QVERIFY(d->findChild<QCheckBox*>("direktoRTL")->isChecked());
     klakas(d, "Button5");
     QCOMPARE(d->findChild<QPlainTextEdit*>("Memo1")->toPlainText(), QString::fromUtf8("Osebni zaimki"));
     // Saving again finds the language's own row of the list.
