@@ -9,6 +9,7 @@
 #include <QDesktopServices>
 #include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QMessageBox>
 #include <QRegularExpressionValidator>
 #include <QScrollBar>
@@ -142,7 +143,7 @@ void traduko::konfiguro()
     on_tiparo_currentIndexChanged(ui->tiparo->currentText());
 
     // Written from right to left: the file says so once the translator has chosen it.
-    QSettings propra(propraDosiero(), QSettings::IniFormat);
+    QSettings propra(legataDosiero(), QSettings::IniFormat);
     propra.setIniCodec("UTF-8");
     ui->direktoRTL->setChecked(propra.value(QStringLiteral("Traduko/Direkto"), QStringLiteral("LTR")).toString()
                                == QLatin1String("RTL"));
@@ -206,6 +207,17 @@ QString traduko::propraDosiero() const
     return dosierujo + ui->Edit_dosiero->text();
 }
 
+// A translator who improves a language the course ships starts from its
+// texts, until the first save makes the file of their own.
+QString traduko::legataDosiero() const
+{
+    const QString nomo = ui->Edit_dosiero->text();
+    const QString sendita = tradukujo() + nomo;
+    if (nomo.isEmpty() || QFile::exists(propraDosiero()) || !QFileInfo(sendita).isFile())
+        return propraDosiero();
+    return sendita;
+}
+
 QStringList traduko::referenco(const QString& dosiero, const QString& sekcio)
 {
     QSettings s(tradukujo() + dosiero, QSettings::IniFormat);
@@ -236,7 +248,7 @@ void traduko::SharghasTrad(QString sekcio)
 
     referenco1 = referenco(dosiero1, sekcio);
     referenco2 = referenco(dosiero2, sekcio);
-    QSettings propra(propraDosiero(), QSettings::IniFormat);
+    QSettings propra(legataDosiero(), QSettings::IniFormat);
     propra.setIniCodec("UTF-8");
     propra.beginGroup(sekcio);
     tradukoj.clear();
@@ -281,6 +293,12 @@ bool traduko::SavasTrad()
     if (pozicio >= 0 && pozicio < tradukoj.size())
         tradukoj[pozicio] = ui->Memo1->toPlainText();
 
+    // The new file takes the place of the shipped one for every text, so it
+    // starts as a copy of it.
+    const QString sendita = legataDosiero();
+    if (sendita != propraDosiero() && QFile::copy(sendita, propraDosiero()))
+        QFile::setPermissions(propraDosiero(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup
+                                                   | QFileDevice::ReadOther);
     QSettings propra(propraDosiero(), QSettings::IniFormat);
     propra.setIniCodec("UTF-8");
     propra.beginGroup(QStringLiteral("Traduko"));

@@ -66,6 +66,7 @@ private:
     bool havasShlosilojn(const QString& sekcio);
     QStringList referenco(const QString& dosiero, const QString& sekcio);
     QString propraDosiero() const;
+    QString legataDosiero() const;
 
     Ui::traduko* ui;
     QString dosiero1, dosiero2;

@@ -32,6 +32,7 @@ private slots:
     void mankantajKampoj();
     void mankantaReferenco();
     void novaLingvoEnLaKurso();
+    void plibonigasSenditan();
     void listigasTrad();
 
 private:
@@ -280,6 +281,28 @@ void tst_tradukilo::novaLingvoEnLaKurso()
     QSettings tdf(":/tradukoj/tradukendaj.tdf", QSettings::IniFormat);
     const QString unua = "Lec02_" + tdf.value("Lec02/000").toString();
     QCOMPARE(fenestro.leciono(2)->findChild<QLabel*>(unua)->text(), QString::fromUtf8("Osebni zaimki"));
+}
+
+void tst_tradukilo::plibonigasSenditan()
+{
+    // Improving English: the editor starts from its texts, and the new file
+    // in the writable folder, which the course prefers, still has them all.
+    lernilo fenestro;
+    traduko* d = malfermas(fenestro);
+    plenigas(d);
+    d->findChild<QLineEdit*>("Edit_dosiero")->setText("angla.trd");
+    elektasSekcion(d, "Menuo");
+    auto* memo = d->findChild<QPlainTextEdit*>("Memo1");
+    QCOMPARE(memo->toPlainText(), d->findChild<QLabel*>("Memo3")->text());
+    memo->setPlainText("What Esperanto is");
+    d->close();
+    QSettings trd(savasLoko + "angla.trd", QSettings::IniFormat);
+    trd.setIniCodec("UTF-8");
+    QCOMPARE(trd.value("Menuo/KioEstas").toString(), QStringLiteral("What Esperanto is"));
+    QSettings sendita(":/tradukoj/angla.trd", QSettings::IniFormat);
+    sendita.setIniCodec("UTF-8");
+    QCOMPARE(trd.value("Lec01/Label1").toString(), sendita.value("Lec01/Label1").toString());
+    QVERIFY(!trd.value("Lec01/Label1").toString().isEmpty());
 }
 
 void tst_tradukilo::listigasTrad()
