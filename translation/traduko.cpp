@@ -36,6 +36,12 @@ QString tradukujo()
     return Loko + QStringLiteral("tradukoj/");
 }
 
+// The language files the course ships, in the order of their names.
+QStringList senditajDosieroj()
+{
+    return QDir(tradukujo(), QStringLiteral("*.trd"), QDir::Name | QDir::IgnoreCase, QDir::Files).entryList();
+}
+
 bool ekzerca(const QString& sekcio)
 {
     return sekcio.left(3) == QLatin1String("Ekz");
@@ -85,8 +91,7 @@ bool traduko::havasShlosilojn(const QString& sekcio)
     if (!ekzerca(sekcio))
         return !Ordigas(sekcio).isEmpty();
     // An exercise's sentences are counted in a reference language.
-    const QStringList dosieroj = QDir(tradukujo(), QStringLiteral("*.trd"), QDir::Name | QDir::IgnoreCase, QDir::Files).entryList();
-    for (const QString& dosiero : dosieroj) {
+    for (const QString& dosiero : senditajDosieroj()) {
         QSettings s(tradukujo() + dosiero, QSettings::IniFormat);
         s.setIniCodec("UTF-8");
         s.beginGroup(sekcio);
@@ -98,8 +103,7 @@ bool traduko::havasShlosilojn(const QString& sekcio)
 
 void traduko::ListigasLingvojn()
 {
-    QDir ujo(tradukujo(), QStringLiteral("*.trd"), QDir::Name | QDir::IgnoreCase, QDir::Files);
-    for (const QString& dosiero : ujo.entryList()) {
+    for (const QString& dosiero : senditajDosieroj()) {
         QSettings s(tradukujo() + dosiero, QSettings::IniFormat);
         s.setIniCodec("UTF-8");
         s.beginGroup(QStringLiteral("Traduko"));
