@@ -2,8 +2,10 @@
 //   - from process start to the home page shown, and to lesson 1 shown
 //     (median over several runs of a fresh process);
 //   - for each lesson, the time to build it and show its first page, and
-//     its number of widgets (median over several fresh windows).
-// Run: mezurilo [runs]
+//     its number of widgets (median over several fresh windows);
+//   - in the translator's editor, a click to the course showing the framed
+//     label, in a lesson already built and in one not built yet.
+// Run: mezurilo [runs], or mezurilo tradukilo for the editor's figures alone
 
 #include "funkcioj.h"
 #include "lernilo.h"
@@ -14,6 +16,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include "lecionkadro.h"
+#include "traduko.h"
 #include <QMediaPlayer>
 #include <QTabWidget>
 #include <QTest>
@@ -94,6 +97,66 @@ double tempoDeProceso(const QString& celo)
     return ms;
 }
 
+// The translator's editor: a click on forward until the course shows the
+// framed label of the next sentence, in lesson 2 once it is built; and the
+// choice of a lesson's section until its first label is framed, when the
+// lesson has still to be built.
+void tradukilo(QTextStream& el, int kiom)
+{
+    QTemporaryDir ujo;
+    preparas(ujo);
+    auto elektas = [](traduko* d, const QString& sekcio) {
+        auto* listo = d->findChild<QComboBox*>(QStringLiteral("Listo"));
+        listo->setCurrentIndex(listo->findText(sekcio));
+        QMetaObject::invokeMethod(listo, "activated", Q_ARG(QString, sekcio));
+    };
+    auto malfermas = [](lernilo& fenestro) {
+        fenestro.findChild<QAbstractButton*>(QStringLiteral("Konfigurado"))->click();
+        fenestro.findChild<QAbstractButton*>(QStringLiteral("tradukilo"))->click();
+        auto* d = fenestro.findChild<traduko*>();
+        d->findChild<QLineEdit*>(QStringLiteral("Edit1"))->setText(QStringLiteral("Mezuro"));
+        d->findChild<QLineEdit*>(QStringLiteral("Edit2"))->setText(QStringLiteral("Mezuro"));
+        d->findChild<QLineEdit*>(QStringLiteral("dulitera_lingvokodo"))->setText(QStringLiteral("xx"));
+        return d;
+    };
+
+    QVector<double> antauen;
+    {
+        lernilo fenestro;
+        atendasMontron(&fenestro);
+        traduko* d = malfermas(fenestro);
+        elektas(d, QStringLiteral("Lec02"));
+        auto* posta = d->findChild<QAbstractButton*>(QStringLiteral("Button2"));
+        for (int i = 0; i < 150 && posta->isEnabled(); ++i) {
+            QElapsedTimer t;
+            t.start();
+            posta->click();
+            fenestro.repaint();
+            QApplication::processEvents();
+            antauen << t.nsecsElapsed() / 1e6;
+        }
+    }
+    QVector<double> konstruoj;
+    for (int i = 0; i < kiom; ++i) {
+        lernilo fenestro;
+        atendasMontron(&fenestro);
+        traduko* d = malfermas(fenestro);
+        QElapsedTimer t;
+        t.start();
+        elektas(d, QStringLiteral("Lec02"));
+        fenestro.repaint();
+        QApplication::processEvents();
+        konstruoj << t.nsecsElapsed() / 1e6;
+    }
+    QVector<double> ordigitaj = antauen;
+    std::sort(ordigitaj.begin(), ordigitaj.end());
+    el << QStringLiteral("\nTranslator's editor, to the framed label shown in the course:\n");
+    el << QStringLiteral("  forward in lesson 2, built:          median %1 ms, slowest %2 ms (%3 sentences)\n")
+              .arg(mediano(antauen), 0, 'f', 1).arg(ordigitaj.isEmpty() ? 0.0 : ordigitaj.last(), 0, 'f', 1).arg(antauen.size());
+    el << QStringLiteral("  section Lec02, lesson not yet built: median %1 ms\n").arg(mediano(konstruoj), 0, 'f', 1);
+    el.flush();
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -105,8 +168,12 @@ int main(int argc, char** argv)
     if (args.size() > 2 && args.at(1) == QLatin1String("--infano"))
         return infano(args.at(2));
 
-    const int kiom = args.size() > 1 ? qMax(1, args.at(1).toInt()) : 7;
     QTextStream el(stdout);
+    if (args.size() > 1 && args.at(1) == QLatin1String("tradukilo")) {
+        tradukilo(el, 7);
+        return 0;
+    }
+    const int kiom = args.size() > 1 ? qMax(1, args.at(1).toInt()) : 7;
 
     QVector<double> hejmo, unua;
     for (int i = 0; i < kiom; ++i) {
@@ -270,5 +337,7 @@ int main(int argc, char** argv)
     el << QStringLiteral("Saved answers: storing all 13 lessons %1 ms, loading one lesson %2 ms\n")
               .arg(mediano(konservoj), 0, 'f', 1).arg(mediano(sharghoj), 0, 'f', 1);
     el << QStringLiteral("Change of language, apply to home page relabelled: %1 ms\n").arg(mediano(shanghoj), 0, 'f', 1);
+    el.flush();
+    tradukilo(el, kiom);
     return 0;
 }

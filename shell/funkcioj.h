@@ -8,8 +8,10 @@
 #include <QString>
 #include <QStringList>
 #include <QList>
+#include <QVector>
 
 class QWidget;
+class QLabel;
 class QTabWidget;
 class QProgressBar;
 class QSettings;
@@ -109,6 +111,21 @@ void Sinkronigu();
 // Address of a help page: "kio" what Esperanto is, anything else how to use
 // the course, both in the current language.
 QString helpdosiero(QString kiu);
+
+// A label of a lesson that a translator writes: its key in the group named
+// by the lesson's tab widget, and its place in reading order.
+struct TradukendaEtikedo
+{
+    int numero;
+    QString shlosilo;
+    QLabel* etikedo;
+};
+// The labels of a tab widget that a translator writes, tab by tab: each one
+// whose name holds the group name and "_", and the instruction "Ekz_Plen2" of
+// a gap exercise; never a panel or memo, nor an Esperanto word or model
+// answer, which relabelling leaves as they are. The count of places goes on
+// over a label whose key comes out empty, and that label is not listed.
+QVector<TradukendaEtikedo> tradukendajEtikedoj(QTabWidget* langetoj);
 
 // Relabels one lesson from the current translation file: every label by
 // its object name, the arrows and alignments by the file's direction.

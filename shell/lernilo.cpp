@@ -5,6 +5,7 @@
 #include "funkcioj.h"
 #include "lecionkadro.h"
 #include "lingvoelekto.h"
+#include "traduko.h"
 
 #include <QCloseEvent>
 #include <QDirIterator>
@@ -22,6 +23,7 @@
 #include <QScrollArea>
 #include <QScroller>
 #include <QSettings>
+#include <QLabel>
 #include <QTabWidget>
 
 namespace {
@@ -633,41 +635,28 @@ void lernilo::on_maldekstren_clicked()
 
 void lernilo::malfermasLecionon(int numero)
 {
+    // These lessons hold an accusative exercise that reads the sentences and
+    // translations of another exercise of the lesson.
+    const std::pair<int, const char*> akuzativaj[] = {{2, "0204"}, {6, "0605"}, {8, "0802"}, {10, "1001"}, {12, "1202"}};
+    for (const auto& a : akuzativaj) {
+        if (a.first == numero)
+            EkzercoAkuzativoTrad = QLatin1String(a.second);
+    }
     ShanghasPaghon(lecionaPagho(numero), lecionoj[numero - 1]);
 }
 
 void lernilo::on_Leciono1_clicked() { malfermasLecionon(1); }
-void lernilo::on_Leciono2_clicked()
-{
-    EkzercoAkuzativoTrad = QStringLiteral("0204");
-    malfermasLecionon(2);
-}
+void lernilo::on_Leciono2_clicked() { malfermasLecionon(2); }
 void lernilo::on_Leciono3_clicked() { malfermasLecionon(3); }
 void lernilo::on_Leciono4_clicked() { malfermasLecionon(4); }
 void lernilo::on_Leciono5_clicked() { malfermasLecionon(5); }
-void lernilo::on_Leciono6_clicked()
-{
-    EkzercoAkuzativoTrad = QStringLiteral("0605");
-    malfermasLecionon(6);
-}
+void lernilo::on_Leciono6_clicked() { malfermasLecionon(6); }
 void lernilo::on_Leciono7_clicked() { malfermasLecionon(7); }
-void lernilo::on_Leciono8_clicked()
-{
-    EkzercoAkuzativoTrad = QStringLiteral("0802");
-    malfermasLecionon(8);
-}
+void lernilo::on_Leciono8_clicked() { malfermasLecionon(8); }
 void lernilo::on_Leciono9_clicked() { malfermasLecionon(9); }
-void lernilo::on_Leciono10_clicked()
-{
-    EkzercoAkuzativoTrad = QStringLiteral("1001");
-    malfermasLecionon(10);
-}
+void lernilo::on_Leciono10_clicked() { malfermasLecionon(10); }
 void lernilo::on_Leciono11_clicked() { malfermasLecionon(11); }
-void lernilo::on_Leciono12_clicked()
-{
-    EkzercoAkuzativoTrad = QStringLiteral("1202");
-    malfermasLecionon(12);
-}
+void lernilo::on_Leciono12_clicked() { malfermasLecionon(12); }
 void lernilo::on_Leciono13_clicked() { malfermasLecionon(13); }
 
 void lernilo::on_KieButono_clicked()
@@ -772,6 +761,9 @@ void lernilo::closeEvent(QCloseEvent* evento)
         evento->ignore();
         return;
     }
+    // The editor saves what the translator wrote when it closes.
+    if (tradukilo && tradukilo->isVisible())
+        tradukilo->close();
     Adiau();
     for (QTabWidget* langetoj : ui->Paghujo->findChildren<QTabWidget*>()) {
         if (langetoj->objectName().startsWith(QLatin1String("Lec")) || langetoj->objectName() == QLatin1String("Fina_Ekzameno"))
@@ -794,6 +786,104 @@ void lernilo::closeEvent(QCloseEvent* evento)
             QCoreApplication::processEvents();
     }
     evento->accept();
+}
+
+void lernilo::on_tradukilo_clicked()
+{
+    if (!tradukilo) {
+        tradukilo = new traduko(this);
+        tradukilo->setWindowModality(Qt::NonModal);
+        QCoreApplication::processEvents();
+        tradukilo->setFont(QFont(sTiparoEo, ghustigas_tiparon(iLiterGrandoEo)));
+        connect(tradukilo, &traduko::novapagho, this, &lernilo::lokigas_paghotrad, Qt::DirectConnection);
+        connect(tradukilo, &traduko::novafrazo, this, &lernilo::lokigas_frazotrad, Qt::DirectConnection);
+        metasApudKurso(tradukilo);
+    }
+    tradukilo->show();
+    tradukilo->raise();
+    tradukilo->activateWindow();
+}
+
+// The editor stands beside the course, so that both can be seen at once:
+// to its right, else to its left, else at the screen's right edge.
+void lernilo::metasApudKurso(QWidget* dialogo)
+{
+    const QScreen* ekrano = screen();
+    if (!ekrano)
+        return;
+    const QRect libera = ekrano->availableGeometry();
+    const QRect kurso = frameGeometry();
+    const int alto = qMin(dialogo->height(), libera.height() - 40);
+    dialogo->resize(dialogo->width(), alto);
+    const int largho = dialogo->frameGeometry().width();
+    int x = kurso.right() + 1;
+    if (x + largho > libera.right())
+        x = kurso.left() - largho >= libera.left() ? kurso.left() - largho : libera.right() - largho;
+    dialogo->move(qMax(libera.left(), x), qMax(libera.top(), kurso.top()));
+}
+
+void lernilo::lokigas_paghotrad(QString pagho)
+{
+    bool bone = false;
+    const int numero = pagho.startsWith(QLatin1String("Pagho")) && pagho.size() == 7 ? pagho.mid(5).toInt(&bone) : 0;
+    if (bone && numero >= 1 && numero <= 13)
+        malfermasLecionon(numero);
+}
+
+void lernilo::lokigas_frazotrad(QString pagho, QString objekto)
+{
+    QWidget* paghejo = ui->Paghujo->findChild<QWidget*>(pagho);
+    if (!paghejo)
+        return;
+    if (objekto.left(3) == QLatin1String("Lec")) {
+        auto* langetoj = paghejo->findChild<QTabWidget*>();
+        auto* etikedo = paghejo->findChild<QLabel*>(objekto);
+        if (!langetoj || !etikedo)
+            return;   // keys such as TFrame41.Label84 name no widget
+        QWidget* rulumo = etikedo->parentWidget();
+        while (rulumo && qstrcmp(rulumo->metaObject()->className(), "QScrollArea") != 0)
+            rulumo = rulumo->parentWidget();
+        for (int i = 0; i < langetoj->count(); ++i) {
+            if (langetoj->widget(i)->isAncestorOf(etikedo)) {
+                langetoj->setCurrentIndex(i);
+                break;
+            }
+        }
+        komencas_navigujon();
+        kadras(etikedo);
+        if (auto* skatolo = qobject_cast<QScrollArea*>(rulumo))
+            skatolo->ensureWidgetVisible(etikedo, 50, 50);
+    } else if (pagho == QLatin1String("Pagho_Konfigurado")) {
+        if (auto* etikedo = paghejo->findChild<QLabel*>(objekto))
+            kadras(etikedo);
+    }
+}
+
+// One label at a time carries the frame of the sentence being translated.
+void lernilo::kadras(QLabel* etikedo)
+{
+    if (kadroEtikedo)
+        kadroEtikedo->setFrameShape(QFrame::NoFrame);
+    etikedo->setFrameShape(QFrame::Box);
+    kadroEtikedo = etikedo;
+}
+
+void lernilo::listigas_trad()
+{
+    listigasTradukendajn(QStringLiteral(":/tradukoj/tradukendaj.tdf"));
+}
+
+void lernilo::listigasTradukendajn(const QString& vojo)
+{
+    QSettings listo(vojo, QSettings::IniFormat);
+    listo.setIniCodec("UTF-8");
+    for (QTabWidget* langetoj : ui->Paghujo->findChildren<QTabWidget*>()) {
+        listo.beginGroup(langetoj->objectName());
+        for (const TradukendaEtikedo& e : tradukendajEtikedoj(langetoj))
+            listo.setValue(QStringLiteral("000%1").arg(e.numero).right(3), e.shlosilo);
+        listo.endGroup();
+    }
+    listo.sync();
 }
 
 void lernilo::showEvent(QShowEvent*) {}

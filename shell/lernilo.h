@@ -49,6 +49,15 @@ public slots:
     void aktualigasTradukon();
     void Saluton();
 
+    // The translator's editor and the course following its sentence.
+    void on_tradukilo_clicked();
+    void lokigas_paghotrad(QString pagho);
+    void lokigas_frazotrad(QString pagho, QString objekto);
+    // Maintenance for the course's makers: writes the list of things to
+    // translate from the lessons built so far (over a writable copy of the
+    // list put at its resource path).
+    void listigas_trad();
+
     void on_shanghasKonfigurojn_clicked();
     void on_Lingvo_activated(int indekso);
     void on_Tiparo_currentIndexChanged(QString tiparo);
@@ -114,11 +123,17 @@ public:
     static QString salutoRadiko(int horo, int unuaHazardo, int duaHazardo);
     // The style of a sample text: the font and its scaled size.
     static QString specimenStilo(const QString& tiparo, int grando);
+    // What listigas_trad does, into the list file at `vojo`.
+    void listigasTradukendajn(const QString& vojo);
+    // The label that has the editor's frame, if any.
+    QLabel* kadrita() const { return kadroEtikedo; }
 
 private:
     void komencakonfiguro();
     void elshutas(const QString& vojo, const QString& nomo, const char* poste);
     void malfermasLecionon(int numero);
+    void metasApudKurso(QWidget* dialogo);
+    void kadras(QLabel* etikedo);
 
     Ui::lernilo* ui;
     traduko* tradukilo = nullptr;

@@ -1,4 +1,5 @@
 #include "tradukeroj.h"
+#include "funkcioj.h"
 #include "lecionkadro.h"
 
 #include <QLabel>
@@ -24,29 +25,8 @@ QStringList grupo(const char* nomo, std::initializer_list<const char*> shlosiloj
 QVector<Tradukero> tradukeroj::deLeciono(QTabWidget* langetoj)
 {
     QVector<Tradukero> listo;
-    const QString nomo = langetoj->objectName();
-    const QString prefikso = nomo + QLatin1Char('_');
-    int nombrilo = 0;
-    for (int i = 0; i < langetoj->count(); ++i) {
-        for (QLabel* etikedo : langetoj->widget(i)->findChildren<QLabel*>()) {
-            const QString n = etikedo->objectName();
-            const bool instrukcio = n == QLatin1String("Ekz_Plen2");
-            if (!(n.contains(prefikso) || instrukcio))
-                continue;
-            if (n.contains(QLatin1String("Pan")) || n.contains(QLatin1String("Memo")))
-                continue;
-            QString shlosilo = n;
-            shlosilo.remove(prefikso);
-            if (instrukcio) {
-                const QObject* gepatro = etikedo->parent();
-                const bool b = gepatro && gepatro->objectName().mid(5, 1) == QLatin1String("B");
-                shlosilo = b ? QStringLiteral("Frame42.Label84") : QStringLiteral("TFrame41.Label84");
-            }
-            if (!shlosilo.isEmpty())
-                listo.append({nombrilo, shlosilo, etikedo->text()});
-            ++nombrilo;
-        }
-    }
+    for (const TradukendaEtikedo& e : tradukendajEtikedoj(langetoj))
+        listo.append({e.numero, e.shlosilo, e.etikedo->text()});
     return listo;
 }
 

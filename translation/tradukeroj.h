@@ -6,9 +6,8 @@
 
 class QTabWidget;
 
-// The texts of a lesson that a translator has to write: every label whose
-// name carries the lesson's group name (LecNN_...), and the instruction of a
-// gap exercise, in the order of the tabs.
+// The texts of a lesson that a translator has to write (the labels chosen by
+// tradukendajEtikedoj), in the order of the tabs, with the form's own text.
 struct Tradukero
 {
     int numero = 0;     // place in reading order, counted over every label taken
