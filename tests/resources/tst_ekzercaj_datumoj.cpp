@@ -12,6 +12,7 @@
 
 #include <QFile>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QtTest>
 
@@ -193,6 +194,15 @@ void tst_ekzercaj_datumoj::numerojTrovas()
                     problemoj << QStringLiteral("%1D %2: no clickable word %3").arg(id).arg(i).arg(D.at(i));
                 if (D.at(i).toInt() < 1 && D.at(i) != D.at(i).toLower())
                     problemoj << QStringLiteral("%1D %2: a word's sound file is named in lower case").arg(id).arg(i);
+            }
+        } else if (klaso == QLatin1String("kiomahoro")) {
+            // The clock compares the typed "hh:mm" as text: two-digit hours,
+            // and midnight is 24:00, never 00:00.
+            static const QRegularExpression horo(QStringLiteral("^(([01][0-9]|2[0-3]):[0-5][0-9]|24:00)$"));
+            const QStringList R = kolumno(QStringLiteral("1101"), "R");
+            for (int i = 0; i < R.size(); ++i) {
+                if (!horo.match(R.at(i)).hasMatch() || R.at(i) == QLatin1String("00:00"))
+                    problemoj << QStringLiteral("1101R %1: '%2' is not a time as typed").arg(i).arg(R.at(i));
             }
         } else if (klaso == QLatin1String("plenigas_spacon")) {
             QList<QStringList> D, R;
