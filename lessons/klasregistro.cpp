@@ -14,9 +14,12 @@
 #include "neklakebla_nova.h"
 #include "titolo.h"
 
+#include "audkompreno.h"
 #include "ekzerco1.h"
+#include "mp3ludilo.h"
 #include "frazokonstruo.h"
 #include "plenigas_spacon.h"
+#include "prononco.h"
 #include "vortoludo.h"
 
 #include <QFrame>
@@ -65,6 +68,9 @@ const QHash<QString, Fabriko>& fabrikoj()
         {QStringLiteral("frazokonstruo"), &faras<frazokonstruo>},
         {QStringLiteral("plenigas_spacon"), &faras<plenigas_spacon>},
         {QStringLiteral("vortoludo"), &faras<vortoludo>},
+        {QStringLiteral("mp3ludilo"), &faras<mp3ludilo>},
+        {QStringLiteral("audkompreno"), &faras<audkompreno>},
+        {QStringLiteral("prononco"), &faras<prononco>},
     };
     return listo;
 }
@@ -73,12 +79,9 @@ const QHash<QString, Fabriko>& fabrikoj()
 const QHash<QString, Fabriko>& anstatauantoj()
 {
     static const QHash<QString, Fabriko> listo = {
-        {QStringLiteral("mp3ludilo"), &faras<QFrame>},
         {QStringLiteral("ekznumeraloj"), &faras<QFrame>},
         {QStringLiteral("kiomahoro"), &faras<QFrame>},
-        {QStringLiteral("audkompreno"), &faras<QFrame>},
         {QStringLiteral("akuzativo"), &faras<QFrame>},
-        {QStringLiteral("prononco"), &faras<QFrame>},
     };
     return listo;
 }
