@@ -24,6 +24,7 @@ audkompreno::audkompreno(QWidget* parent)
     const int enKolumno = limigo(48) / 4;
     for (int k = 0; k < 4; ++k) {
         auto* kolumno = new QVBoxLayout;
+        kolumno->setSpacing(2);
         for (int i = 0; i < enKolumno; ++i) {
             kolumno->addWidget(new QLabel(QStringLiteral(" "), ui->vortujo));
         }

@@ -51,6 +51,10 @@ prononco::prononco(QWidget* parent)
     , ui(new Ui::prononco)
 {
     ui->setupUi(this);
+    // The bar keeps its place while hidden, so the buttons below stay put.
+    QSizePolicy politiko = ui->PP_Prog->sizePolicy();
+    politiko.setRetainSizeWhenHidden(true);
+    ui->PP_Prog->setSizePolicy(politiko);
     ui->PP_Prog->hide();
     ui->PP_Kiomope->hide();
     QScroller::grabGesture(ui->scrollArea->viewport(), QScroller::LeftMouseButtonGesture);

@@ -5,6 +5,8 @@
 // record: a PulseAudio daemon with no device at all. Its one output is a null
 // sink, which consumes sound at the pace of its clock; a sine tone plays into
 // it, and its monitor is the default input, so a recording has a real signal.
+// A stream of silence with a short latency keeps the sink working in small
+// blocks, as a desktop's sound does; without it a recording starts late.
 // Playback and recording reach it through GStreamer's pulsesink and pulsesrc,
 // as on a learner's desktop. Start it before the first player is made.
 
@@ -19,6 +21,10 @@ class SonServilo
 public:
     ~SonServilo()
     {
+        if (silento.state() != QProcess::NotRunning) {
+            silento.kill();
+            silento.waitForFinished(1000);
+        }
         if (procezo.state() != QProcess::NotRunning) {
             procezo.terminate();
             if (!procezo.waitForFinished(3000))
@@ -60,6 +66,13 @@ public:
             return false;
         }
         qputenv("PULSE_SERVER", ("unix:" + ingo).toLocal8Bit());
+        silento.setProcessEnvironment(QProcessEnvironment::systemEnvironment());
+        silento.setStandardInputFile(QStringLiteral("/dev/zero"));
+        silento.start(QStringLiteral("pacat"), {QStringLiteral("--playback"), QStringLiteral("--latency-msec=20")});
+        if (!silento.waitForStarted(5000)) {
+            eraro = QStringLiteral("pacat does not start (tools/dependoj.sh installs it)");
+            return false;
+        }
         return true;
     }
 
@@ -68,6 +81,7 @@ public:
 private:
     QTemporaryDir ujo;
     QProcess procezo;
+    QProcess silento;
 };
 
 #endif

@@ -83,9 +83,7 @@ void tst_prononco::init()
 
 void tst_prononco::registrasKajReludas()
 {
-    // A recording of 2 "seconds" lasts 1.5 s: the sound server takes up to a
-    // second to deliver its first sound.
-    iMsEnSekundo = 750;
+    iMsEnSekundo = 750;   // a recording of 2 "seconds" lasts 1.5 s
     QFile::remove(ekz->registrajho(0));
     QStringList fazoj;
     QSet<int> restasDum;
