@@ -26,9 +26,12 @@ audkompreno::audkompreno(QWidget* parent)
         auto* kolumno = new QVBoxLayout;
         kolumno->setSpacing(2);
         for (int i = 0; i < enKolumno; ++i) {
-            kolumno->addWidget(new QLabel(QStringLiteral(" "), ui->vortujo));
+            auto* etikedo = new QLabel(QStringLiteral(" "), ui->vortujo);
+            etikedo->setWordWrap(true);   // a long sentence keeps to its column
+            kolumno->addWidget(etikedo);
         }
-        vico->addLayout(kolumno);
+        kolumno->addStretch();
+        vico->addLayout(kolumno, 1);
     }
 }
 
