@@ -16,13 +16,16 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include "lecionkadro.h"
+#include "mp3ludilo.h"
 #include "traduko.h"
 #include <QMediaPlayer>
 #include <QTabWidget>
 #include <QTest>
 #include <QApplication>
 #include <QElapsedTimer>
+#include <QFileInfo>
 #include <QFrame>
+#include <QTimer>
 #include <QProcess>
 #include <QSettings>
 #include <QTemporaryDir>
@@ -277,6 +280,87 @@ int main(int argc, char** argv)
         el.flush();
     }
     fenestro.ludilo->stop();
+
+    // Start on the dictation and on the pronunciation until the first word
+    // sounds: the player is playing and its sound has begun to flow. The pronunciation plays its model through a player of
+    // its own, and its Start returns only when the step is over: a timer
+    // watches the player, notes the moment and stops the step.
+    el << "\nStart to the first sound (median ms):\n";
+    struct Lauta { int leciono; const char* nomo; const char* komenco; const char* halto; };
+    const Lauta lautaj[] = {{1, "Lec01_Ekz_0102", "BitBtn8", "BitBtn10"},
+                            {4, "Lec04_Ekz_Aud_0403", "BitBtn8", "BitBtn10"},
+                            {1, "Lec01_Ekz_Pron_0102", "PP_Startu", "PP_Haltu"},
+                            {7, "Lec07_Ekzerco_0709", "PP_Startu", "PP_Haltu"}};
+    for (const Lauta& e : lautaj) {
+        fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(e.leciono))->click();
+        QWidget* kadro = fenestro.leciono(e.leciono)->findChild<QWidget*>(QLatin1String(e.nomo));
+        fenestro.leciono(e.leciono)->findChild<QTabWidget*>()->setCurrentWidget(kadro->parentWidget());
+        QMediaPlayer* ludilo = kadro->findChild<QMediaPlayer*>();
+        if (!ludilo)
+            ludilo = fenestro.ludilo;
+        auto* halto = kadro->findChild<QAbstractButton*>(QLatin1String(e.halto));
+        QVector<double> tempoj;
+        for (int i = 0; i < 3 * kiom; ++i) {
+            fenestro.activateWindow();
+            if (!QTest::qWaitForWindowActive(&fenestro))
+                continue;
+            ludilo->stop();
+            QElapsedTimer t;
+            double ms = -1;
+            QTimer rigardo;
+            QObject::connect(&rigardo, &QTimer::timeout, [&] {
+                if (ms < 0 && ludilo->state() == QMediaPlayer::PlayingState
+                    && (ludilo->position() > 0 || ludilo->mediaStatus() == QMediaPlayer::EndOfMedia)) {
+                    ms = t.nsecsElapsed() / 1e6;
+                    iMsEnSekundo = 1;   // the rest of the step at once
+                    halto->click();
+                } else if (ms < 0 && t.elapsed() > 5000) {
+                    iMsEnSekundo = 1;
+                    halto->click();
+                }
+            });
+            rigardo.start(0);
+            t.start();
+            kadro->findChild<QAbstractButton*>(QLatin1String(e.komenco))->click();
+            while (ms < 0 && t.elapsed() < 6000)
+                QApplication::processEvents();
+            rigardo.stop();
+            iMsEnSekundo = 1000;
+            if (halto->isEnabled())
+                halto->click();
+            if (ms >= 0)
+                tempoj << ms;
+        }
+        el << QStringLiteral("  %1 %2 %3\n").arg(QLatin1String(kadro->metaObject()->className()), -12)
+                  .arg(QLatin1String(e.nomo), -22)
+                  .arg(tempoj.isEmpty() ? QStringLiteral("no sound") : QString::number(mediano(tempoj), 'f', 1));
+        el.flush();
+    }
+    fenestro.ludilo->stop();
+
+    // The reading texts and the song: file size and playing time.
+    el << "\nReading text            size (KiB)   playing time (s)\n";
+    for (int n = 1; n <= 13; ++n) {
+        QWidget pagho;
+        lecionkadro kadro(n, &pagho);
+        for (mp3ludilo* l : kadro.findChildren<mp3ludilo*>()) {
+            const QString vojo = mrLoko + mp3ludilo::dosiero(l->objectName());
+            if (!QFileInfo::exists(vojo)) {
+                el << QStringLiteral("  %1 (no recording yet)\n").arg(l->objectName(), -20);
+                continue;
+            }
+            QMediaPlayer ludilo;
+            ludilo.setMedia(QUrl::fromLocalFile(vojo));
+            QElapsedTimer t;
+            t.start();
+            while (ludilo.duration() <= 0 && t.elapsed() < 5000)
+                QApplication::processEvents();
+            el << QStringLiteral("  %1 %2 %3\n").arg(l->objectName(), -20)
+                      .arg(QFileInfo(vojo).size() / 1024.0, 10, 'f', 1)
+                      .arg(ludilo.duration() / 1000.0, 14, 'f', 1);
+        }
+    }
+    el.flush();
 
     // Relabelling lesson 1, and a change of language from the settings page
     // until the home page reads in the new language.

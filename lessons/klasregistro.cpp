@@ -15,11 +15,14 @@
 #include "titolo.h"
 
 #include "akuzativo.h"
+#include "audkompreno.h"
 #include "ekzerco1.h"
 #include "ekznumeraloj.h"
+#include "mp3ludilo.h"
 #include "frazokonstruo.h"
 #include "kiomahoro.h"
 #include "plenigas_spacon.h"
+#include "prononco.h"
 #include "vortoludo.h"
 
 #include <QFrame>
@@ -71,6 +74,9 @@ const QHash<QString, Fabriko>& fabrikoj()
         {QStringLiteral("ekznumeraloj"), &faras<ekznumeraloj>},
         {QStringLiteral("kiomahoro"), &faras<kiomahoro>},
         {QStringLiteral("akuzativo"), &faras<akuzativo>},
+        {QStringLiteral("mp3ludilo"), &faras<mp3ludilo>},
+        {QStringLiteral("audkompreno"), &faras<audkompreno>},
+        {QStringLiteral("prononco"), &faras<prononco>},
     };
     return listo;
 }
@@ -79,9 +85,6 @@ const QHash<QString, Fabriko>& fabrikoj()
 const QHash<QString, Fabriko>& anstatauantoj()
 {
     static const QHash<QString, Fabriko> listo = {
-        {QStringLiteral("mp3ludilo"), &faras<QFrame>},
-        {QStringLiteral("audkompreno"), &faras<QFrame>},
-        {QStringLiteral("prononco"), &faras<QFrame>},
     };
     return listo;
 }

@@ -100,7 +100,7 @@ QVector<Sono> sonlisto::lecionaj()
                 const QString etikedo = ero.left(1).toUpper() + ero.mid(1) + QLatin1Char('_') + nomo.left(5);
                 auto* teksto = kadro.findChild<QLabel*>(etikedo);
                 k.aldonas(QStringLiteral("sonoj/") + nomo.left(5).toLower() + QLatin1Char('/') + ero + mp3_finajho,
-                          legaVocxo, 140, teksto ? ebenaTeksto(teksto->text()) : QString());
+                          legaVocxo, 120, teksto ? ebenaTeksto(teksto->text()) : QString());
             }
         }
     }

@@ -7,6 +7,7 @@ PAKOJ="
 build-essential cmake pkg-config
 qtbase5-dev qtbase5-dev-tools qtmultimedia5-dev libqt5multimedia5-plugins libqt5svg5-dev
 gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-tools
+gstreamer1.0-pulseaudio gstreamer1.0-alsa pulseaudio pulseaudio-utils
 espeak-ng sox vorbis-tools ffmpeg
 fonts-dejavu-core
 hunspell myspell-eo

@@ -1,0 +1,180 @@
+#include "audkompreno.h"
+#include "ui_audkompreno.h"
+
+#include "funkcioj.h"
+#include "klakbutono_nova.h"
+
+#include <QBoxLayout>
+#include <QGuiApplication>
+#include <QInputMethod>
+#include <QLabel>
+#include <QScroller>
+
+audkompreno::audkompreno(QWidget* parent)
+    : QFrame(parent)
+    , ui(new Ui::audkompreno)
+{
+    ui->setupUi(this);
+    ltr_marko = QString(QChar(0x200E));
+    QScroller::grabGesture(ui->scrollArea->viewport(), QScroller::LeftMouseButtonGesture);
+
+    // The panel of answers: four columns that fill one after the other.
+    ui->vortujo->setStyleSheet(QStringLiteral("QLabel { font-weight: bold; color: #2E4272; }"));
+    auto* vico = new QHBoxLayout(ui->vortujo);
+    const int enKolumno = limigo(48) / 4;
+    for (int k = 0; k < 4; ++k) {
+        auto* kolumno = new QVBoxLayout;
+        kolumno->setSpacing(2);
+        for (int i = 0; i < enKolumno; ++i) {
+            auto* etikedo = new QLabel(QStringLiteral(" "), ui->vortujo);
+            etikedo->setWordWrap(true);   // a long sentence keeps to its column
+            kolumno->addWidget(etikedo);
+        }
+        kolumno->addStretch();
+        vico->addLayout(kolumno, 1);
+    }
+}
+
+audkompreno::~audkompreno()
+{
+    delete ui;
+}
+
+QString audkompreno::sonoDe(const QString& vico, const QString& ciferoj)
+{
+    if (vico.toInt() < 1)
+        return vortoSono(ciferoj, vico, true);
+    return frazoSono(ciferoj, vico);
+}
+
+void audkompreno::on_BitBtn8_clicked()
+{
+    etikedoj = ui->vortujo->findChildren<QLabel*>();
+    kodo = objectName().right(4);
+    leciono = objectName().left(5);
+    kiom = _Matriz(&datumoj, kodo, QStringLiteral("D"));
+    ui->BitBtn8->setEnabled(false);
+    ui->BitBtn9->setEnabled(true);
+    ui->BitBtn10->setEnabled(true);
+    ui->Edit1->setEnabled(true);
+    ui->finita->setEnabled(true);
+    ui->Placar1->setValue(limigo(kiom));
+    ui->Placar2->setValue(0);
+    ui->Placar3->setValue(0);
+    ui->Placar4->setValue(0);
+    uzitaj.clear();
+    sukcesoj = 0;
+    eraroj = 0;
+    for (QLabel* etikedo : qAsConst(etikedoj))
+        etikedo->setText(QStringLiteral(" "));
+    for (int i = 0; i < kiom; ++i)
+        uzitaj.append(false);
+    // Without data there is nothing to say.
+    if (kiom == 0) {
+        on_BitBtn10_clicked();
+        return;
+    }
+    novavorto();
+}
+
+void audkompreno::novavorto()
+{
+    do
+        nuna = random(kiom);
+    while (uzitaj[nuna]);
+    sono = sonoDe(datumoj[nuna], kodo.left(2));
+    mp3(sono);
+    ui->Edit1->clear();
+    ui->Edit1->setFocus(Qt::OtherFocusReason);
+    QGuiApplication::inputMethod()->show();
+}
+
+void audkompreno::on_BitBtn9_clicked()
+{
+    ui->Edit1->setFocus(Qt::OtherFocusReason);
+    QGuiApplication::inputMethod()->show();
+    mp3(sono);
+}
+
+void audkompreno::on_Edit1_returnPressed()
+{
+    analizu();
+}
+
+void audkompreno::on_finita_clicked()
+{
+    analizu();
+}
+
+QString audkompreno::atendata() const
+{
+    const QString vico = datumoj.value(nuna);
+    if (vico.toInt() < 1)
+        return vico;
+    QObject* o = parent();
+    while (o && qstrcmp(o->metaObject()->className(), "QTabWidget") != 0)
+        o = o->parent();
+    if (!o)
+        return QString();
+    const auto vortoj = o->findChildren<klakbutono_nova*>(leciono + QStringLiteral("_Button") + vico);
+    if (vortoj.isEmpty())
+        return QString();
+    return vortoj.first()->text().trimmed().remove(ltr_marko);
+}
+
+void audkompreno::analizu()
+{
+    // Only while a run waits for an answer (a click that was queued during a
+    // correction, or a stray Enter, finds nothing to check).
+    if (!ui->BitBtn10->isEnabled())
+        return;
+    const QString respondo = ui->Edit1->text().trimmed();
+    if (respondo.isEmpty())
+        return;
+    const QString purigita = purigas(respondo, true);
+    const QString ghusta = purigas(atendata(), true);
+
+    if (purigita == ghusta) {
+        ++sukcesoj;
+        ui->Placar2->setValue(sukcesoj);
+        ui->Placar1->setValue(limigo(kiom) - sukcesoj);
+        uzitaj[nuna] = true;
+        if (QLabel* etikedo = etikedoj.value(sukcesoj - 1))
+            etikedo->setText(purigita);
+        Sinkronigu();
+    } else {
+        Noteto(false);
+        ++eraroj;
+        ui->Placar3->setValue(eraroj);
+        ui->BitBtn9->setEnabled(false);
+        ui->BitBtn10->setEnabled(false);
+        ui->Edit1->setEnabled(false);
+        ui->finita->setEnabled(false);
+        ui->Korekta->setText(ghusta);
+        tekstoblinko(ui->Korekta);
+        ui->BitBtn9->setEnabled(true);
+        ui->BitBtn10->setEnabled(true);
+        ui->Edit1->setEnabled(true);
+        ui->Korekta->clear();
+        ui->finita->setEnabled(true);
+    }
+
+    ui->Placar4->setValue(sukcesoj * 100 / (sukcesoj + eraroj));
+    if (ui->Placar1->value() <= 0) {
+        Mesagxo(eraroj, sukcesoj);
+        on_BitBtn10_clicked();
+    } else {
+        novavorto();
+    }
+}
+
+void audkompreno::on_BitBtn10_clicked()
+{
+    ui->BitBtn8->setEnabled(true);
+    ui->BitBtn9->setEnabled(false);
+    ui->BitBtn10->setEnabled(false);
+    ui->Edit1->clear();
+    ui->Edit1->setEnabled(false);
+    ui->finita->setEnabled(false);
+    ui->BitBtn8->setFocus();
+}
