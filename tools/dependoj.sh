@@ -8,6 +8,7 @@ build-essential cmake pkg-config
 qtbase5-dev qtbase5-dev-tools qtmultimedia5-dev libqt5multimedia5-plugins libqt5svg5-dev
 gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-tools
 espeak-ng sox vorbis-tools ffmpeg
+fluidsynth timgm6mb-soundfont
 fonts-dejavu-core
 hunspell myspell-eo
 poppler-utils xvfb xauth
