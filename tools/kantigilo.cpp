@@ -405,57 +405,143 @@ QString kantistaDosierujo(const Kanto& k, const QString& loko)
     return loko;
 }
 
-// Each syllable sung on its note: spoken, cut to its sound, stretched or
-// pressed to 90 % of the note (the rest is the breath before the next one) and
-// padded to the note's exact length, so that the pieces joined keep time.
-QString vocxo(const Kanto& k, const QString& loko)
+// Runs shell commands, a few at a time.
+void paralele(const QVector<QStringList>& komandoj)
 {
-    const QString kantisto = kantistaDosierujo(k, loko);
-    static const char* const skripto =
-        "espeak-ng --path=\"$1\" -v \"$2\" -s 130 -w \"$3.e.wav\" -- \"$4\" && "
-        "sox -v 0.7 \"$3.e.wav\" -r 44100 -c 1 \"$3.t.wav\" silence 1 0.005 -38d reverse silence 1 0.005 -38d reverse && "
-        "n=$(soxi -s \"$3.t.wav\") && "
-        "sox \"$3.t.wav\" \"$3.wav\" tempo -s $(awk \"BEGIN { print $n / $5 }\") 30 fade t 0.008 0 0.05 pad 0 2 trim 0 \"$6\"s";
-
-    QStringList pecoj;
-    QList<QProcess*> kurantaj;
     const int samtempe = qMax(2, QThread::idealThreadCount());
-    auto atendas = [&kurantaj](int ghis) {
+    QList<QProcess*> kurantaj;
+    QString malsukcesa;
+    auto atendas = [&](int ghis) {
         while (kurantaj.size() > ghis) {
             QProcess* p = kurantaj.takeFirst();
             p->waitForFinished(-1);
-            const bool bone = p->exitStatus() == QProcess::NormalExit && p->exitCode() == 0;
-            const QString kio = p->arguments().value(6);
+            if (p->exitStatus() != QProcess::NormalExit || p->exitCode() != 0)
+                malsukcesa = p->arguments().join(QLatin1Char(' '));
             delete p;
-            if (!bone)
-                eraro(QStringLiteral("could not sing the syllable ") + kio);
         }
     };
-    for (int i = 0; i < k.notoj.size(); ++i) {
-        const Noto& n = k.notoj.at(i);
-        const qint64 longo = specimeno(k, n.komenco + n.dauro) - specimeno(k, n.komenco);
-        const QString peco = QStringLiteral("%1/p%2").arg(loko).arg(i, 4, 10, QLatin1Char('0'));
-        pecoj << peco + QStringLiteral(".wav");
-        if (n.silabo.isEmpty()) {
-            lanchas(QStringLiteral("sox"), {QStringLiteral("-r"), QString::number(kRapido), QStringLiteral("-c"),
-                                            QStringLiteral("1"), QStringLiteral("-n"), QStringLiteral("-b"),
-                                            QStringLiteral("16"), pecoj.last(), QStringLiteral("trim"),
-                                            QStringLiteral("0"), QString::number(longo) + QLatin1Char('s')});
-            continue;
-        }
-        QString teksto = n.silabo.toLower();
-        teksto.remove(QRegularExpression(QStringLiteral("[^\\w]")));
+    for (const QStringList& argumentoj : komandoj) {
         atendas(samtempe - 1);
         auto* p = new QProcess;
         p->setProcessChannelMode(QProcess::ForwardedErrorChannel);
-        p->start(QStringLiteral("sh"), {QStringLiteral("-c"), QString::fromLatin1(skripto), QStringLiteral("sh"),
-                                        kantisto, k.lingvo + QStringLiteral("+k%1").arg(n.alto), peco, teksto,
-                                        QString::number(qRound64(longo * 0.9)), QString::number(longo)});
+        p->start(QStringLiteral("sh"), QStringList{QStringLiteral("-c")} + argumentoj);
         kurantaj << p;
     }
     atendas(0);
+    if (!malsukcesa.isEmpty())
+        eraro(QStringLiteral("failed: ") + malsukcesa);
+}
+
+// Where the vowel of a spoken syllable is: the stretch from the first to the
+// last 10 ms that reach half the loudest, in samples.
+QPair<qint64, qint64> vokalo(const QString& kruda)
+{
+    QFile f(kruda);
+    if (!f.open(QIODevice::ReadOnly))
+        eraro(QStringLiteral("cannot read ") + kruda);
+    const QByteArray b = f.readAll();
+    const auto* s = reinterpret_cast<const qint16*>(b.constData());
+    const int fenestro = kRapido / 100;
+    QVector<double> fortoj;
+    for (int i = 0; i + fenestro <= b.size() / 2; i += fenestro) {
+        double sumo = 0;
+        for (int j = i; j < i + fenestro; ++j)
+            sumo += double(s[j]) * s[j];
+        fortoj << sumo;
+    }
+    if (fortoj.isEmpty())
+        eraro(QStringLiteral("a syllable came out silent: ") + kruda);
+    const double sojlo = *std::max_element(fortoj.cbegin(), fortoj.cend()) * 0.25;  // half in amplitude
+    int de = 0, ghis = fortoj.size() - 1;
+    while (fortoj.at(de) < sojlo)
+        ++de;
+    while (fortoj.at(ghis) < sojlo)
+        --ghis;
+    return {qint64(de) * fenestro, qint64(ghis + 1) * fenestro};
+}
+
+// SoX's tempo effect, as many times as it takes to stretch by a factor it
+// does not take at once.
+QString tempo(double faktoro)
+{
+    QString efikoj;
+    for (; faktoro < 0.3; faktoro /= 0.5)
+        efikoj += QStringLiteral(" tempo -s 0.5 30");
+    return efikoj + QStringLiteral(" tempo -s %1 30").arg(faktoro, 0, 'f', 4);
+}
+
+// Each syllable sung on its note: spoken, cut to its sound, brought to 90 % of
+// the note (the rest is the breath before the next one) and padded to the
+// note's exact length, so that the pieces joined keep time. A syllable longer
+// than that is pressed as a whole; a shorter one keeps its consonants as
+// spoken and holds its vowel, as a singer does.
+QString vocxo(const Kanto& k, const QString& loko)
+{
+    const QString kantisto = kantistaDosierujo(k, loko);
+    const QString kruda = QStringLiteral("-t raw -r 44100 -e signed -b 16 -c 1");
+    QVector<QStringList> parolas;
+    QStringList pecoj;
+    QVector<int> kantataj;
+    for (int i = 0; i < k.notoj.size(); ++i) {
+        const Noto& n = k.notoj.at(i);
+        const QString peco = QStringLiteral("%1/p%2").arg(loko).arg(i, 4, 10, QLatin1Char('0'));
+        pecoj << peco;
+        if (n.silabo.isEmpty())
+            continue;
+        QString teksto = n.silabo.toLower();
+        teksto.remove(QRegularExpression(QStringLiteral("[^\\w]")));
+        kantataj << i;
+        parolas.push_back({QStringLiteral("espeak-ng --path=\"$1\" -v \"$2\" -s 130 -w \"$3.e.wav\" -- \"$4\" && "
+                                          "sox -v 0.7 \"$3.e.wav\" ") + kruda + QStringLiteral(" \"$3.raw\" "
+                                          "silence 1 0.005 -38d reverse silence 1 0.005 -38d reverse"),
+                           QStringLiteral("sh"), kantisto, k.lingvo + QStringLiteral("+k%1").arg(n.alto), peco, teksto});
+    }
+    paralele(parolas);
+
+    QVector<QStringList> kantas;
+    qint64 konsonantoj = 0;
+    for (int i = 0; i < k.notoj.size(); ++i) {
+        const Noto& n = k.notoj.at(i);
+        const qint64 longo = specimeno(k, n.komenco + n.dauro) - specimeno(k, n.komenco);
+        const QString& peco = pecoj.at(i);
+        if (n.silabo.isEmpty()) {
+            kantas.push_back({QStringLiteral("sox -r 44100 -c 1 -n -b 16 \"$1.wav\" trim 0 \"$2\"s"), QStringLiteral("sh"),
+                              peco, QString::number(longo)});
+            continue;
+        }
+        const qint64 celo = qRound64(longo * 0.9);
+        const qint64 tuta = QFileInfo(peco + QStringLiteral(".raw")).size() / 2;
+        QPair<qint64, qint64> v = vokalo(peco + QStringLiteral(".raw"));
+        v.first = qMax<qint64>(v.first, kRapido / 100);
+        v.second = qMin<qint64>(v.second, tuta - kRapido / 100);
+        konsonantoj += v.first;
+        const qint64 vokala = v.second - v.first;
+        const qint64 aliaj = tuta - vokala;
+        QString sono, efikoj;
+        if (celo <= tuta || vokala < kRapido * 3 / 100 || celo - aliaj < vokala) {
+            sono = kruda + QStringLiteral(" \"$1.raw\"");
+            efikoj = tempo(double(tuta) / celo);
+        } else {
+            const QString el = QStringLiteral("\"|sox %1 $1.raw -p trim ").arg(kruda);
+            sono = el + QStringLiteral("0 %1s\" ").arg(v.first)
+                   + el + QStringLiteral("%1s =%2s").arg(v.first).arg(v.second) + tempo(double(vokala) / (celo - aliaj))
+                   + QStringLiteral("\" ") + el + QStringLiteral("%1s\"").arg(v.second);
+        }
+        kantas.push_back({QStringLiteral("sox -V1 ") + sono
+                              + QStringLiteral(" \"$1.wav\"") + efikoj + QStringLiteral(" fade t 0.008 %1s 0.05 pad 0 2 trim 0 \"$2\"s").arg(celo),
+                          QStringLiteral("sh"), peco, QString::number(longo)});
+    }
+    paralele(kantas);
+
+    QStringList dosieroj;
+    for (const QString& peco : pecoj)
+        dosieroj << peco + QStringLiteral(".wav");
     const QString celo = loko + QStringLiteral("/vocxo.wav");
-    lanchas(QStringLiteral("sox"), pecoj + QStringList{celo, QStringLiteral("channels"), QStringLiteral("2")});
+    // A singer starts the consonants before the beat so that the vowel is on
+    // it: the voice comes earlier by the syllables' mean onset.
+    const qint64 frue = qMin<qint64>(konsonantoj / qMax(1, kantataj.size()), kRapido * 6 / 100);
+    lanchas(QStringLiteral("sox"), dosieroj + QStringList{celo, QStringLiteral("channels"), QStringLiteral("2"),
+                                                          QStringLiteral("trim"), QString::number(frue) + QLatin1Char('s')});
     return celo;
 }
 
@@ -537,7 +623,8 @@ int main(int argc, char** argv)
         // The song ends two seconds after its last bar, fading out its echo.
         const double sekundojEntute = k.longo * 60.0 / k.tempo + 2;
         const QString miksajho = l + QStringLiteral("/kanto.wav");
-        lanchas(QStringLiteral("sox"), {QStringLiteral("-m"), QStringLiteral("-v"), QStringLiteral("1.0"),
+        lanchas(QStringLiteral("sox"), {QStringLiteral("-V1"), QStringLiteral("-m"), QStringLiteral("-v"),
+                                        QStringLiteral("1.0"),
                                         l + QStringLiteral("/akompano.wav"), QStringLiteral("-v"),
                                         QStringLiteral("0.4"), vocxa, miksajho, QStringLiteral("pad"),
                                         QStringLiteral("0"), QStringLiteral("3"), QStringLiteral("trim"),
