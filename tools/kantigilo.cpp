@@ -115,6 +115,30 @@ Akordo akordo(const QString& nomo)
     return a;
 }
 
+// Esperanto stresses the last but one syllable of a word: in a song it must
+// fall on a strong beat, the first or third crotchet of the bar.
+void kontrolasAkcentojn(const Kanto& k, const QString& nomo)
+{
+    QVector<const Noto*> vorto;
+    for (const Noto& n : k.notoj) {
+        if (n.silabo.isEmpty())
+            continue;
+        vorto << &n;
+        if (n.silabo.endsWith(QLatin1Char('-')))
+            continue;
+        if (vorto.size() > 1) {
+            const double loko = std::fmod(vorto.at(vorto.size() - 2)->komenco, kTaktaj);
+            if (qAbs(loko) > 1e-6 && qAbs(loko - 2) > 1e-6) {
+                QString teksto;
+                for (const Noto* s : vorto)
+                    teksto += s->silabo;
+                eraro(nomo + QStringLiteral(": the stress of \"%1\" is off the strong beats").arg(teksto));
+            }
+        }
+        vorto.clear();
+    }
+}
+
 double aldonasSekcion(Kanto& k, const Sekcio& muziko, const Sekcio& vortoj, const QString& nomo)
 {
     const double komenco = k.longo;
@@ -150,6 +174,7 @@ double aldonasSekcion(Kanto& k, const Sekcio& muziko, const Sekcio& vortoj, cons
     }
     if (sekva != silaboj.size())
         eraro(nomo + QStringLiteral(": %1 syllables on %2 notes").arg(silaboj.size()).arg(sekva));
+    kontrolasAkcentojn(k, nomo);
 
     double a = komenco;
     for (const QString& linio : muziko.akordoj) {
@@ -540,8 +565,10 @@ QString vocxo(const Kanto& k, const QString& loko)
     // A singer starts the consonants before the beat so that the vowel is on
     // it: the voice comes earlier by the syllables' mean onset.
     const qint64 frue = qMin<qint64>(konsonantoj / qMax(1, kantataj.size()), kRapido * 6 / 100);
+    // A little room around the voice, as around the instruments.
     lanchas(QStringLiteral("sox"), dosieroj + QStringList{celo, QStringLiteral("channels"), QStringLiteral("2"),
-                                                          QStringLiteral("trim"), QString::number(frue) + QLatin1Char('s')});
+                                                          QStringLiteral("trim"), QString::number(frue) + QLatin1Char('s'),
+                                                          QStringLiteral("reverb"), QStringLiteral("20")});
     return celo;
 }
 
