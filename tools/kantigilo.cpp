@@ -321,7 +321,8 @@ QByteArray midi(const Kanto& k)
             aldonasNoton(ev, Baso, basa + 7 > 52 ? basa - 5 : basa + 7, a.komenco + 2, a.dauro - 2.1, 72);
         // Guitar: a broken chord in quavers.
         for (int i = 0; i * 0.5 < a.dauro - 1e-6; ++i) {
-            const int alto = i == 0 ? tonoj.first() : tonoj.at(1 + (i - 1) % (tonoj.size() - 1)) + (i % 4 == 2 ? 12 : 0);
+            const int alto = i == 0 ? tonoj.first()
+                                    : tonoj.at(1 + (i - 1) % (tonoj.size() - 1)) + (i % 4 == 2 ? 12 : 0);
             aldonasNoton(ev, Akordoj, alto, a.komenco + i * 0.5, 0.5, i % 2 ? 48 : 62);
         }
     }
@@ -385,14 +386,12 @@ qint64 specimeno(const Kanto& k, double krocxeto)
 // variant one copy of it per pitch, whose pitch stays on that note.
 QString kantistaDosierujo(const Kanto& k, const QString& loko)
 {
-    QString datumoj;
-    for (const QString& d : {QStringLiteral("/usr/lib/x86_64-linux-gnu/espeak-ng-data"),
-                             QStringLiteral("/usr/lib/aarch64-linux-gnu/espeak-ng-data"),
-                             QStringLiteral("/usr/share/espeak-ng-data"), QStringLiteral("/usr/lib/espeak-ng-data")}) {
-        if (QFile::exists(d + QStringLiteral("/phontab")))
-            datumoj = d;
-    }
-    if (datumoj.isEmpty())
+    QProcess versio;
+    versio.start(QStringLiteral("espeak-ng"), {QStringLiteral("--version")});
+    versio.waitForFinished(-1);
+    const QString datumoj =
+        QString::fromLocal8Bit(versio.readAllStandardOutput()).section(QStringLiteral("Data at:"), 1).trimmed();
+    if (datumoj.isEmpty() || !QFile::exists(datumoj + QStringLiteral("/phontab")))
         eraro(QStringLiteral("espeak-ng's data folder was not found"));
     const QString nova = loko + QStringLiteral("/espeak-ng-data");
     QDir().mkpath(nova + QStringLiteral("/voices/!v"));
@@ -400,7 +399,8 @@ QString kantistaDosierujo(const Kanto& k, const QString& loko)
         if (i.fileName() != QLatin1String("voices"))
             QFile::link(i.absoluteFilePath(), nova + QLatin1Char('/') + i.fileName());
     }
-    for (const QFileInfo& i : QDir(datumoj + QStringLiteral("/voices")).entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot)) {
+    const QDir vocxoj(datumoj + QStringLiteral("/voices"));
+    for (const QFileInfo& i : vocxoj.entryInfoList(QDir::AllEntries | QDir::NoDotAndDotDot)) {
         if (i.fileName() != QLatin1String("!v"))
             QFile::link(i.absoluteFilePath(), nova + QStringLiteral("/voices/") + i.fileName());
     }
@@ -425,7 +425,8 @@ QString kantistaDosierujo(const Kanto& k, const QString& loko)
         QFile f(nova + QStringLiteral("/voices/!v/k%1").arg(alto));
         if (!f.open(QIODevice::WriteOnly))
             eraro(QStringLiteral("cannot write ") + f.fileName());
-        f.write(QStringLiteral("name k%1\npitch %2 %2\n").arg(alto).arg(herco).toUtf8() + linioj.join(QLatin1Char('\n')).toUtf8());
+        f.write(QStringLiteral("name k%1\npitch %2 %2\n").arg(alto).arg(herco).toUtf8()
+                + linioj.join(QLatin1Char('\n')).toUtf8());
     }
     return loko;
 }
@@ -519,7 +520,8 @@ QString vocxo(const Kanto& k, const QString& loko)
         parolas.push_back({QStringLiteral("espeak-ng --path=\"$1\" -v \"$2\" -s 130 -w \"$3.e.wav\" -- \"$4\" && "
                                           "sox -v 0.7 \"$3.e.wav\" ") + kruda + QStringLiteral(" \"$3.raw\" "
                                           "silence 1 0.005 -38d reverse silence 1 0.005 -38d reverse"),
-                           QStringLiteral("sh"), kantisto, k.lingvo + QStringLiteral("+k%1").arg(n.alto), peco, teksto});
+                           QStringLiteral("sh"), kantisto, k.lingvo + QStringLiteral("+k%1").arg(n.alto), peco,
+                           teksto});
     }
     paralele(parolas);
 
@@ -530,7 +532,8 @@ QString vocxo(const Kanto& k, const QString& loko)
         const qint64 longo = specimeno(k, n.komenco + n.dauro) - specimeno(k, n.komenco);
         const QString& peco = pecoj.at(i);
         if (n.silabo.isEmpty()) {
-            kantas.push_back({QStringLiteral("sox -r 44100 -c 1 -n -b 16 \"$1.wav\" trim 0 \"$2\"s"), QStringLiteral("sh"),
+            kantas.push_back({QStringLiteral("sox -r 44100 -c 1 -n -b 16 \"$1.wav\" trim 0 \"$2\"s"),
+                              QStringLiteral("sh"),
                               peco, QString::number(longo)});
             continue;
         }
@@ -553,7 +556,8 @@ QString vocxo(const Kanto& k, const QString& loko)
                    + QStringLiteral("\" ") + el + QStringLiteral("%1s\"").arg(v.second);
         }
         kantas.push_back({QStringLiteral("sox -V1 ") + sono
-                              + QStringLiteral(" \"$1.wav\"") + efikoj + QStringLiteral(" fade t 0.008 %1s 0.05 pad 0 2 trim 0 \"$2\"s").arg(celo),
+                              + QStringLiteral(" \"$1.wav\"") + efikoj
+                              + QStringLiteral(" fade t 0.008 %1s 0.05 pad 0 2 trim 0 \"$2\"s").arg(celo),
                           QStringLiteral("sh"), peco, QString::number(longo)});
     }
     paralele(kantas);
@@ -567,7 +571,7 @@ QString vocxo(const Kanto& k, const QString& loko)
     const qint64 frue = qMin<qint64>(konsonantoj / qMax(1, kantataj.size()), kRapido * 6 / 100);
     // A little room around the voice, as around the instruments.
     lanchas(QStringLiteral("sox"), dosieroj + QStringList{celo, QStringLiteral("channels"), QStringLiteral("2"),
-                                                          QStringLiteral("trim"), QString::number(frue) + QLatin1Char('s'),
+                                                          QStringLiteral("trim"), QStringLiteral("%1s").arg(frue),
                                                           QStringLiteral("reverb"), QStringLiteral("20")});
     return celo;
 }
