@@ -376,7 +376,7 @@ void lanchas(const QString& programo, const QStringList& argumentoj)
         eraro(programo + QStringLiteral(" failed: ") + argumentoj.join(QLatin1Char(' ')));
 }
 
-qint64 specimeno(const Kanto& k, double krocxeto)
+qint64 sonpunkto(const Kanto& k, double krocxeto)
 {
     return qRound64(krocxeto * 60.0 / k.tempo * kRapido);
 }
@@ -529,7 +529,7 @@ QString vocxo(const Kanto& k, const QString& loko)
     qint64 konsonantoj = 0;
     for (int i = 0; i < k.notoj.size(); ++i) {
         const Noto& n = k.notoj.at(i);
-        const qint64 longo = specimeno(k, n.komenco + n.dauro) - specimeno(k, n.komenco);
+        const qint64 longo = sonpunkto(k, n.komenco + n.dauro) - sonpunkto(k, n.komenco);
         const QString& peco = pecoj.at(i);
         if (n.silabo.isEmpty()) {
             kantas.push_back({QStringLiteral("sox -r 44100 -c 1 -n -b 16 \"$1.wav\" trim 0 \"$2\"s"),
