@@ -8,9 +8,9 @@
 struct Sono
 {
     QString vojo;       // relative to the media folder, as the program opens it
-    QString vocxo;      // voice: an espeak-ng voice, or "noto" for a note
+    QString vocxo;      // voice: an espeak-ng voice, "noto" for a note, "kanto" for the song
     int rapido = 140;   // words a minute
-    QString teksto;     // what is said (for a note: "jes" or "ne")
+    QString teksto;     // what is said (for a note: "jes" or "ne"; for the song: its score)
 };
 
 // Every sound of the course: the words and phrases of the lessons, the

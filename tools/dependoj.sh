@@ -9,6 +9,7 @@ qtbase5-dev qtbase5-dev-tools qtmultimedia5-dev libqt5multimedia5-plugins libqt5
 gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-tools
 gstreamer1.0-pulseaudio gstreamer1.0-alsa pulseaudio pulseaudio-utils
 espeak-ng sox vorbis-tools ffmpeg
+fluidsynth timgm6mb-soundfont
 fonts-dejavu-core
 hunspell myspell-eo
 poppler-utils xvfb xauth

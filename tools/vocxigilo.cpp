@@ -76,7 +76,8 @@ int main(int argc, char** argv)
     for (const Sono& s : sonoj) {
         novaj << linio(s);
         vojoj.insert(s.vojo);
-        if (!jamFaritaj.contains(linio(s)) || !QFile::exists(mrLoko + s.vojo))
+        // The song has its own maker, kantigilo.
+        if (s.vocxo != QLatin1String("kanto") && (!jamFaritaj.contains(linio(s)) || !QFile::exists(mrLoko + s.vojo)))
             farotaj << s;
     }
     // Sounds that are no longer part of the course.

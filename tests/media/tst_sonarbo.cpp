@@ -153,7 +153,7 @@ void tst_sonarbo::salutojKvarope()
 
 void tst_sonarbo::ludasGhisFino()
 {
-    for (const char* dosiero : {"sonoj/noteto_jes.oga", "sonoj/bonegea.oga"}) {
+    for (const char* dosiero : {"sonoj/noteto_jes.oga", "sonoj/bonegea.oga", "sonoj/lec12/fragoj.oga"}) {
         QMediaPlayer ludilo;
         QSignalSpy stato(&ludilo, &QMediaPlayer::mediaStatusChanged);
         ludilo.setMedia(QUrl::fromLocalFile(arbo + dosiero));
@@ -162,6 +162,11 @@ void tst_sonarbo::ludasGhisFino()
         QCOMPARE(ludilo.error(), QMediaPlayer::NoError);
         QVERIFY(ludilo.duration() > 0);
     }
+    // The song of lesson 12 lasts a song's length: one to two and a half minutes.
+    QMediaPlayer kanto;
+    kanto.setMedia(QUrl::fromLocalFile(arbo + "sonoj/lec12/fragoj.oga"));
+    QTRY_VERIFY_WITH_TIMEOUT(kanto.duration() > 0, 10000);
+    QVERIFY2(kanto.duration() >= 60000 && kanto.duration() <= 150000, qPrintable(QString::number(kanto.duration())));
 }
 
 int main(int argc, char** argv)

@@ -1,6 +1,7 @@
 // All Esperanto of the course passes the spelling check of Debian's
 // Esperanto dictionary (hunspell with myspell-eo): the words and model
-// answers of the lessons, the exercise data, and the Esperanto translation.
+// answers of the lessons, the exercise data, the Esperanto translation and
+// the words of the song.
 // The few right words the dictionary lacks stand, each with its reason, in
 // resources/literumado/permesitaj.txt.
 
@@ -57,6 +58,7 @@ private slots:
     void lecionoj();
     void ekzercajDatumoj();
     void esperantaTraduko();
+    void kanto();
 
 private:
     QStringList nekonataj(const QStringList& tekstoj);
@@ -151,6 +153,30 @@ void tst_literumado::esperantaTraduko()
     }
     QVERIFY(tekstoj.size() > 50);
     const QStringList eraroj = nekonataj(tekstoj);
+    QVERIFY2(eraroj.isEmpty(), qPrintable(eraroj.join(", ")));
+}
+
+void tst_literumado::kanto()
+{
+    // The sung lines, syllables joined again; the words beside their meaning
+    // for the lesson page must be the ones sung.
+    QFile partituro(QStringLiteral(LERNILO_FONTOJ "/resources/kanto/fragoj.txt"));
+    QFile tradukoj(QStringLiteral(LERNILO_FONTOJ "/resources/kanto/tradukoj.txt"));
+    QVERIFY(partituro.open(QIODevice::ReadOnly) && tradukoj.open(QIODevice::ReadOnly));
+    const QStringList linioj = QString::fromUtf8(tradukoj.readAll()).split('\n');
+    QStringList kantataj, mankas;
+    for (const QString& linio : QString::fromUtf8(partituro.readAll()).split('\n')) {
+        if (!linio.startsWith(QLatin1String("s:")))
+            continue;
+        QString vortoj = linio.mid(2).simplified();
+        vortoj.replace(QStringLiteral("- "), QString());
+        kantataj << vortoj;
+        if (!linioj.contains(vortoj))
+            mankas << vortoj;
+    }
+    QCOMPARE(kantataj.size(), 16);
+    QVERIFY2(mankas.isEmpty(), qPrintable(mankas.join(" / ")));
+    const QStringList eraroj = nekonataj(kantataj);
     QVERIFY2(eraroj.isEmpty(), qPrintable(eraroj.join(", ")));
 }
 
