@@ -4,6 +4,19 @@
 // Process-wide state of the course and the free functions that the
 // subsystems share. The globals are plain variables on purpose: every part of
 // the program reads them directly, and all of it runs on the GUI thread.
+//
+// Each function lives in the folder of its subsystem:
+//   shell/funkcioj.cpp            the globals, the folders, the draw
+//   input/literoj.cpp             letter systems, cleaning of typed answers
+//   media/sonoj.cpp               sound-file names, the player
+//   media/parolado.cpp            notes, spoken feedback, the verdict box, pauses
+//   translation/tradukado.cpp     relabelling of a lesson, the translation file
+//   translation/lingvovicoj.cpp   language rows
+//   written/respondoj.cpp         saved answers of the written pages
+//   written/sendado.cpp           hand-in
+//   written/presado.cpp           printing of a lesson
+//   exercises/ekzercdatumoj.cpp   exercise data, the limit of a run
+//   exercises/blinko.cpp          the blink of a right answer
 
 #include <QString>
 #include <QStringList>
