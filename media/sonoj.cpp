@@ -18,6 +18,16 @@ QString frazoSono(const QString& ciferoj, const QString& numero)
     return QStringLiteral("sonoj/lec") + ciferoj + QStringLiteral("/btn") + numero + mp3_finajho;
 }
 
+QString ekzercaSono(const QString& ciferoj, const QString& vico, bool auh)
+{
+    return vico.toInt() >= 1 ? frazoSono(ciferoj, vico) : vortoSono(ciferoj, vico, auh);
+}
+
+QString legoSono(const QString& ludilo)
+{
+    return QStringLiteral("sonoj/") + ludilo.left(5).toLower() + QLatin1Char('/') + ludilo.mid(6) + mp3_finajho;
+}
+
 void mp3(QString dosiero)
 {
     auto* fenestro = qobject_cast<lernilo*>(QApplication::activeWindow());
