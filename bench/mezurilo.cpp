@@ -14,6 +14,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include "lecionkadro.h"
+#include "inidosiero.h"
 #include <QMediaPlayer>
 #include <QTabWidget>
 #include <QTest>
@@ -45,8 +46,7 @@ void preparas(const QTemporaryDir& ujo)
     mrLoko = QCoreApplication::applicationDirPath() + QStringLiteral("/../");
     savasLoko = ujo.path() + QStringLiteral("/");
     sServilo = QStringLiteral("http://127.0.0.1:9");
-    QSettings agordoj(savasLoko + QStringLiteral("lernilomelo.ini"), QSettings::IniFormat);
-    agordoj.setIniCodec("UTF-8");
+    inidosiero agordoj(savasLoko + QStringLiteral("lernilomelo.ini"));
     agordoj.setValue(QStringLiteral("Gxenerala/Lingvo"), QString::fromUtf8("English — angla"));
     agordoj.setValue(QStringLiteral("Gxenerala/Dosiero"), QStringLiteral("angla.trd"));
     agordoj.sync();

@@ -1,4 +1,5 @@
 #include "funkcioj.h"
+#include "inidosiero.h"
 
 #include <QSettings>
 
@@ -8,8 +9,7 @@ int _Matriz(QStringList* lista, QString id, QString tipo)
     const bool traduko = tipo == QLatin1String("T");
     const QString dosiero = traduko ? Loko + QStringLiteral("tradukoj/") + sTradukoDosiero
                                     : QStringLiteral(":ekzercoj/ekz") + id.left(2) + QStringLiteral(".dat");
-    QSettings datumoj(dosiero, QSettings::IniFormat);
-    datumoj.setIniCodec("UTF-8");
+    inidosiero datumoj(dosiero);
     datumoj.beginGroup(traduko ? QStringLiteral("Ekzerco-") + id : id + tipo);
     const int kiom = datumoj.allKeys().size();
     const QString defaulto = traduko ? QStringLiteral("Ne tradukita") : QString();
@@ -22,8 +22,7 @@ int _Matriz(QStringList* lista, QString id, QString tipo)
 int _Matriz2(QList<QStringList>* lista, QString id, QString tipo, int largho)
 {
     lista->clear();
-    QSettings datumoj(QStringLiteral(":ekzercoj/ekz") + id.left(2) + QStringLiteral(".dat"), QSettings::IniFormat);
-    datumoj.setIniCodec("UTF-8");
+    inidosiero datumoj(QStringLiteral(":ekzercoj/ekz") + id.left(2) + QStringLiteral(".dat"));
     datumoj.beginGroup(id + tipo);
     const int kiom = datumoj.allKeys().size();
     for (int i = 0; i < kiom; ++i) {

@@ -1,4 +1,5 @@
 #include "funkcioj.h"
+#include "inidosiero.h"
 
 #include <QSettings>
 
@@ -16,8 +17,7 @@ QStringList listaVico(QSettings& listo, int grupo)
 
 QStringList dosieraVico(const QString& nomo, const QString& datoDefaulto)
 {
-    QSettings dosiero(QStringLiteral(":/tradukoj/") + nomo, QSettings::IniFormat);
-    dosiero.setIniCodec("UTF-8");
+    inidosiero dosiero(QStringLiteral(":/tradukoj/") + nomo);
     dosiero.beginGroup(QStringLiteral("Traduko"));
     return {dosiero.value(QStringLiteral("LingvoID"), QStringLiteral("??")).toString(),
             dosiero.value(QStringLiteral("Lingvo"), QStringLiteral("?????????")).toString(),

@@ -5,41 +5,62 @@
 #include "label_sago.h"
 #include "label_sago_reversa.h"
 #include "neklakebla_nova.h"
+#include "inidosiero.h"
 
 #include <QFile>
-#include <QHash>
 #include <QLabel>
 #include <QSettings>
 
-namespace {
-
-// Labels of the exercise forms whose text is common to all exercises of a kind.
-const QHash<QString, QString>& gheneralaj()
+const QVector<QPair<QString, QString>>& gheneralajEtikedoj()
 {
-    static const QHash<QString, QString> tabelo = {
-        {QStringLiteral("Ekz_Akuz1"), QStringLiteral("TFrame5.Label6")},
-        {QStringLiteral("Ekz_Akuz2"), QStringLiteral("TFrame5.Label1")},
+    // In the order of the group in the list of things to translate.
+    static const QVector<QPair<QString, QString>> tabelo = {
         {QStringLiteral("Ekz_Pron1"), QStringLiteral("TFrame2.PP_Label1")},
         {QStringLiteral("Ekz_Pron2"), QStringLiteral("TFrame2.PP_Label41")},
-        {QStringLiteral("Ekz_Audk1"), QStringLiteral("TFrame3.Label59")},
         {QStringLiteral("Ekz_Audk2"), QStringLiteral("TFrame3.Label68")},
-        {QStringLiteral("Ekz_Vort1"), QStringLiteral("TFrame4.Label83")},
+        {QStringLiteral("Ekz_Audk1"), QStringLiteral("TFrame3.Label59")},
         {QStringLiteral("Ekz_Vort2"), QStringLiteral("TFrame1.Label7")},
+        {QStringLiteral("Ekz_Vort1"), QStringLiteral("TFrame4.Label83")},
         {QStringLiteral("Ekz_Plen1"), QStringLiteral("TFrame4.Label83")},
+        {QStringLiteral("Ekz_Akuz2"), QStringLiteral("TFrame5.Label1")},
+        {QStringLiteral("Ekz_Akuz1"), QStringLiteral("TFrame5.Label6")},
         {QStringLiteral("Ekz_FrazoKonstruo"), QStringLiteral("Ekz_FrazoKonstruo")},
     };
     return tabelo;
 }
 
+QString instrukciaShlosilo(const QObject* etikedo)
+{
+    // The second gap exercise of a lesson has a "B" after the lesson number.
+    const QObject* gepatro = etikedo ? etikedo->parent() : nullptr;
+    const bool b = gepatro && gepatro->objectName().mid(5, 1) == QLatin1String("B");
+    return b ? QStringLiteral("Frame42.Label84") : QStringLiteral("TFrame41.Label84");
+}
+
+namespace {
+
+QString gheneralaShlosilo(const QString& etikedo)
+{
+    for (const auto& paro : gheneralajEtikedoj()) {
+        if (paro.first == etikedo)
+            return paro.second;
+    }
+    return QString();
+}
+
 } // namespace
+
+QString legotaTraduko()
+{
+    const QString vojo = savasLoko + sTradukoDosiero;
+    if (sekuraDosierNomo(sTradukoDosiero) && QFile::exists(vojo))
+        return vojo;
+    return QStringLiteral(":/tradukoj/") + sTradukoDosiero;
+}
 
 void Trad(QWidget* radiko, QString grupo)
 {
-    QString vojo = savasLoko + sTradukoDosiero;
-    if (!sekuraDosierNomo(sTradukoDosiero) || !QFile::exists(vojo))
-        vojo = QStringLiteral(":/tradukoj/") + sTradukoDosiero;
-    QSettings traduko(vojo, QSettings::IniFormat);
-    traduko.setIniCodec("UTF-8");
+    inidosiero traduko(legotaTraduko());
     const QString direkto = traduko.value(QStringLiteral("Traduko/Direkto"), QStringLiteral("LTR")).toString();
     const bool ltr = direkto == QLatin1String("LTR");
     const QString ne = QStringLiteral("Ne Tradukita");
@@ -74,14 +95,11 @@ void Trad(QWidget* radiko, QString grupo)
             continue;
         }
         const QString shlosilo = klakebla ? nomo.mid(12) : nomo;
+        const QString gheneralo = gheneralaShlosilo(shlosilo);
         if (shlosilo == QLatin1String("Ekz_Plen2")) {
-            // The second gap exercise of a lesson has a "B" after the lesson number.
-            const QObject* gepatro = etikedo->parent();
-            const bool b = gepatro && gepatro->objectName().mid(5, 1) == QLatin1String("B");
-            const QString sh = b ? QStringLiteral("Frame42.Label84") : QStringLiteral("TFrame41.Label84");
-            etikedo->setText(traduko.value(grupo + QLatin1Char('/') + sh, ne).toString());
-        } else if (gheneralaj().contains(shlosilo)) {
-            etikedo->setText(traduko.value(QStringLiteral("Gheneralaj/") + gheneralaj().value(shlosilo), ne).toString());
+            etikedo->setText(traduko.value(grupo + QLatin1Char('/') + instrukciaShlosilo(etikedo), ne).toString());
+        } else if (!gheneralo.isEmpty()) {
+            etikedo->setText(traduko.value(QStringLiteral("Gheneralaj/") + gheneralo, ne).toString());
         } else if (etikedo->property("tipo").toString() == QLatin1String("esperanta")) {
             if (direkto == QLatin1String("RTL")) {
                 etikedo->setText(etikedo->text() + ltrMarko);

@@ -10,7 +10,7 @@
 void Sendas_Printilo(QTabWidget* langetoj, QString titolo, QProgressBar* progreso)
 {
     QPrinter printilo(QPrinter::HighResolution);
-    if (titolo == QLatin1String("Leciono 13"))
+    if (titolo == QStringLiteral("Leciono %1").arg(KiomDaLecionoj))
         titolo = QStringLiteral("Fina Ekzameno");
     printilo.setDocName(titolo);
     QPrintDialog dialogo(&printilo, langetoj);

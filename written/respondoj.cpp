@@ -1,4 +1,5 @@
 #include "funkcioj.h"
+#include "inidosiero.h"
 
 #include <QLineEdit>
 #include <QPlainTextEdit>
@@ -27,8 +28,7 @@ void trairasPaghon(QWidget* pagho, QSettings& agordoj, bool savas)
 
 void SxargxasEk(QTabWidget* langetoj, bool savas)
 {
-    QSettings agordoj(agordoVojo(), QSettings::IniFormat);
-    agordoj.setIniCodec("UTF-8");
+    inidosiero agordoj(agordoVojo());
     agordoj.beginGroup(langetoj->objectName());
     for (int i = 0; i < langetoj->count(); ++i) {
         QWidget* pagho = langetoj->widget(i);
@@ -40,8 +40,7 @@ void SxargxasEk(QTabWidget* langetoj, bool savas)
 
 void SavasEk(QTabWidget* langetoj)
 {
-    QSettings agordoj(agordoVojo(), QSettings::IniFormat);
-    agordoj.setIniCodec("UTF-8");
+    inidosiero agordoj(agordoVojo());
     agordoj.beginGroup(langetoj->objectName());
     for (QWidget* pagho : langetoj->findChildren<QWidget*>()) {
         if (pagho->objectName().left(6) == QLatin1String("Sendas"))

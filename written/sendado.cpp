@@ -16,7 +16,7 @@ QString SendasTeksto(QTabWidget* langetoj, QWidget* pagho, int numero, const QSt
     const QString linio(QLatin1Char('\n'));
     QString teksto = QStringLiteral("Leciono ") + leciono;
     QList<QLabel*> etikedoj;
-    if (leciono != QLatin1String("13")) {
+    if (leciono.toInt() != KiomDaLecionoj) {
         etikedoj = pagho->findChildren<QLabel*>();
         teksto += QStringLiteral(" - Paĝo ") + QString::number(numero) + linio + linio;
     } else {
