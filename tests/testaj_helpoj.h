@@ -2,6 +2,8 @@
 #define TESTAJ_HELPOJ_H
 
 #include "funkcioj.h"
+#include "inidosiero.h"
+#include "klasregistro.h"
 
 #include <QAbstractButton>
 #include <QApplication>
@@ -34,13 +36,35 @@ inline void preparasLerninton(const QTemporaryDir& ujo, const QString& dosiero =
                               const QString& lingvo = QString::fromUtf8("English — angla"))
 {
     preparasLokojn(ujo);
-    QSettings agordoj(savasLoko + QStringLiteral("lernilomelo.ini"), QSettings::IniFormat);
-    agordoj.setIniCodec("UTF-8");
+    inidosiero agordoj(agordoVojo());
     agordoj.setValue(QStringLiteral("Gxenerala/Lingvo"), lingvo);
     agordoj.setValue(QStringLiteral("Gxenerala/Dosiero"), dosiero);
     agordoj.sync();
     QFile listo(savasLoko + QStringLiteral("traduklisto.ini"));
     listo.open(QIODevice::WriteOnly);
+}
+
+// Writes a file into the writable folder.
+inline bool skribas(const QString& nomo, const QByteArray& enhavo)
+{
+    QFile f(savasLoko + nomo);
+    return f.open(QIODevice::WriteOnly | QIODevice::Truncate) && f.write(enhavo) == enhavo.size();
+}
+
+// Whether a widget is one of the course's exercises, or lies inside one.
+inline bool estasEkzerco(const QWidget* w)
+{
+    static const QStringList ekzercoj{"ekzerco1", "frazokonstruo", "plenigas_spacon", "vortoludo", "ekznumeraloj",
+                                      "kiomahoro", "audkompreno", "akuzativo", "prononco"};
+    return ekzercoj.contains(klasregistro::klasoDe(w));
+}
+inline bool enEkzerco(const QWidget* w)
+{
+    for (const QWidget* s = w->parentWidget(); s; s = s->parentWidget()) {
+        if (estasEkzerco(s))
+            return true;
+    }
+    return false;
 }
 
 // Clicks the named button of the next modal dialog as soon as it shows (the

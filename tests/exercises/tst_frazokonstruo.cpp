@@ -126,6 +126,7 @@ void tst_frazokonstruo::init()
     preparasLerninton(*ujo);
     lNoteto = false;
     lSxaltilo = false;
+    iMsEnSekundo = 20;
     smGratulon = QStringLiteral("bona");
     smDenove = QStringLiteral("denove");
 }

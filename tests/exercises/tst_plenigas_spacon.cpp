@@ -135,6 +135,7 @@ void tst_plenigas_spacon::init()
     sTradukoDosiero = QStringLiteral("angla.trd");
     lNoteto = false;
     lSxaltilo = false;
+    iMsEnSekundo = 20;
 }
 
 void tst_plenigas_spacon::cleanup()
