@@ -21,9 +21,7 @@ class tst_lernilo : public QObject
 private slots:
     void init();
     void cleanup();
-    void hejmpaghoSenBreto();
     void lecionoKonstruataUnufoje();
-    void lecionoMontrataKunBretoj();
     void nekonataPaghoShanghasNenion();
     void rekomencoEnSamaLeciono_data();
     void rekomencoEnSamaLeciono();
@@ -31,8 +29,6 @@ private slots:
     void kieButonoJeUnuaFojo();
     void hejmoKonservasRekomencon();
     void konservitaLangetoMalgravas();
-    void akuzativaTraduko_data();
-    void akuzativaTraduko();
     void paghojAranghatajNurKiamMontrataj();
     void aliaFenestroNeShovasRekomencon();
     void navigiloRondiras();
@@ -79,18 +75,6 @@ QTabWidget* tst_lernilo::langetoj(int leciono)
     return kadro ? kadro->findChild<QTabWidget*>() : nullptr;
 }
 
-void tst_lernilo::hejmpaghoSenBreto()
-{
-    auto* paghujo = fenestro->findChild<QStackedWidget*>("Paghujo");
-    QCOMPARE(paghujo->count(), 17);
-    QCOMPARE(paghujo->currentIndex(), 0);
-    QCOMPARE(paghujo->currentWidget()->objectName(), QStringLiteral("ChefaPagho"));
-    for (const char* nomo : {"butonujo", "navigujo", "paghopiedo"})
-        QVERIFY2(fenestro->findChild<QWidget*>(nomo)->isHidden(), nomo);
-    for (int n = 1; n <= 13; ++n)
-        QCOMPARE(fenestro->leciono(n), nullptr);
-}
-
 void tst_lernilo::lecionoKonstruataUnufoje()
 {
     klakas("Leciono3");
@@ -105,21 +89,6 @@ void tst_lernilo::lecionoKonstruataUnufoje()
     QWidget* pagho = fenestro->findChild<QWidget*>("Pagho03");
     QCOMPARE(pagho->findChildren<QTabWidget*>().size(), 1);
     QCOMPARE(fenestro->leciono(4), nullptr);
-}
-
-void tst_lernilo::lecionoMontrataKunBretoj()
-{
-    klakas("Leciono1");
-    auto* paghujo = fenestro->findChild<QStackedWidget*>("Paghujo");
-    QCOMPARE(paghujo->currentIndex(), 1);
-    QVERIFY(!fenestro->findChild<QWidget*>("butonujo")->isHidden());
-    QVERIFY(!fenestro->findChild<QWidget*>("navigujo")->isHidden());
-    QVERIFY(fenestro->findChild<QWidget*>("paghopiedo")->isHidden());
-    QCOMPARE(fenestro->findChild<QLabel*>("kiom_da_paghoj")->text(), QStringLiteral("1/13"));
-    klakas("Hejmo");
-    QCOMPARE(paghujo->currentIndex(), 0);
-    QVERIFY(fenestro->findChild<QWidget*>("butonujo")->isHidden());
-    QVERIFY(fenestro->findChild<QWidget*>("navigujo")->isHidden());
 }
 
 void tst_lernilo::nekonataPaghoShanghasNenion()
@@ -201,27 +170,6 @@ void tst_lernilo::konservitaLangetoMalgravas()
     klakas("Leciono3");
     QCOMPARE(langetoj(3)->currentIndex(), 0);
     QCOMPARE(LastaPagxo, 0);
-}
-
-void tst_lernilo::akuzativaTraduko_data()
-{
-    QTest::addColumn<QString>("butono");
-    QTest::addColumn<QString>("sekcio");
-    QTest::newRow("2") << "Leciono2" << "0204";
-    QTest::newRow("6") << "Leciono6" << "0605";
-    QTest::newRow("8") << "Leciono8" << "0802";
-    QTest::newRow("10") << "Leciono10" << "1001";
-    QTest::newRow("12") << "Leciono12" << "1202";
-    QTest::newRow("others leave it") << "Leciono7" << "keep";
-}
-
-void tst_lernilo::akuzativaTraduko()
-{
-    QFETCH(QString, butono);
-    QFETCH(QString, sekcio);
-    EkzercoAkuzativoTrad = "keep";
-    klakas(butono);
-    QCOMPARE(EkzercoAkuzativoTrad, sekcio);
 }
 
 void tst_lernilo::paghojAranghatajNurKiamMontrataj()
