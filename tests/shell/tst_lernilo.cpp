@@ -235,7 +235,6 @@ void tst_lernilo::sagojLauDirekto_data()
     QTest::addColumn<bool>("dekstrenMontrasDekstren");
     QTest::newRow("left to right") << "LTR" << true;
     QTest::newRow("right to left") << "RTL" << false;
-    QTest::newRow("no direction in the file") << "" << true;
 }
 
 void tst_lernilo::sagojLauDirekto()

@@ -1,5 +1,5 @@
 // Written work: model answers shown and hidden, answers kept between runs,
-// hand-in by the clipboard, and printing a lesson.
+// and hand-in by the clipboard.
 
 #include "cx_edit.h"
 #include "funkcioj.h"
@@ -17,14 +17,9 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QProcess>
-#include <QProgressBar>
 #include <QScrollArea>
 #include <QTabWidget>
 #include <QVBoxLayout>
-#include <QSignalSpy>
 #include <QtTest>
 
 namespace {
@@ -89,8 +84,6 @@ private slots:
     void sendadoDePagho();
     void sendadoEnXSistemo();
     void sendadoDeFinaEkzameno();
-    void presado();
-    void presadoNuligita();
 
 private:
     QTemporaryDir* ujo = nullptr;
@@ -258,62 +251,6 @@ void tst_skribajhoj::sendadoDeFinaEkzameno()
     Sendas(l.langetoj->currentWidget(), 2);
     QCOMPARE(QGuiApplication::clipboard()->text(), QString::fromUtf8(
         "Leciono 13Parte 1\n\n1. Casa.\ndomo\n\nRedação\n\n"));
-}
-
-// Lesson 2: six of its twelve tabs are exercises; the other six share three sheets.
-void tst_skribajhoj::presado()
-{
-    const int leciono = 2, folioj = 3;
-    const QString titolo = "Lernilo - Leciono 02";
-    const QString pdf = ujo->path() + "/leciono.pdf";
-    lernilo fenestro;
-    fenestro.resize(569, 770);
-    fenestro.show();
-    fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(leciono))->click();
-    QTabWidget* langetoj = fenestro.leciono(leciono)->findChild<QTabWidget*>();
-    langetoj->setCurrentIndex(1);
-    auto* progreso = fenestro.findChild<QProgressBar*>("prog_printilo");
-    QString dokumento;
-    QTimer::singleShot(50, [pdf, &dokumento] {
-        auto* dialogo = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
-        QVERIFY(dialogo);
-        dokumento = dialogo->printer()->docName();
-        dialogo->findChild<QLineEdit*>("filename")->setText(pdf);
-        dialogo->accept();
-    });
-    QMetaObject::invokeMethod(&fenestro, "on_printilo_clicked");
-    QVERIFY(progreso->isHidden());
-    QCOMPARE(langetoj->currentIndex(), 1);   // the learner's page comes back
-    QCOMPARE(dokumento, titolo.mid(10));
-
-    QProcess info;
-    info.start("pdfinfo", {pdf});
-    QVERIFY(info.waitForFinished(20000));
-    const QString informo = QString::fromUtf8(info.readAllStandardOutput());
-    QVERIFY2(informo.contains(QRegularExpression(QStringLiteral("Pages:\\s+%1\\n").arg(folioj))), qPrintable(informo));
-    QProcess teksto;
-    teksto.start("pdftotext", {pdf, "-"});
-    QVERIFY(teksto.waitForFinished(20000));
-    const QString enhavo = QString::fromUtf8(teksto.readAllStandardOutput()).simplified();
-    QVERIFY2(enhavo.startsWith(titolo), qPrintable(enhavo.left(200)));
-}
-
-// The final exam prints under its own title; a cancelled dialog prints nothing.
-void tst_skribajhoj::presadoNuligita()
-{
-    lernilo fenestro;
-    fenestro.findChild<QAbstractButton*>("Leciono13")->click();
-    QString dokumento;
-    QTimer::singleShot(50, [&dokumento] {
-        if (auto* dialogo = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget())) {
-            dokumento = dialogo->printer()->docName();
-            dialogo->reject();
-        }
-    });
-    QSignalSpy montro(fenestro.findChild<QProgressBar*>("prog_printilo"), &QProgressBar::valueChanged);
-    QMetaObject::invokeMethod(&fenestro, "on_printilo_clicked");
-    QCOMPARE(dokumento, QStringLiteral("Fina Ekzameno"));
-    QCOMPARE(montro.count(), 0);
 }
 
 QTEST_MAIN(tst_skribajhoj)
