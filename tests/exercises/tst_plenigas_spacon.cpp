@@ -150,7 +150,6 @@ void tst_plenigas_spacon::frazo_data()
     QTest::addColumn<QString>("flankoj");   // per gap: D right, M left
     QTest::newRow("prefixes") << QString::fromUtf8("Miaj ~kuzoj venis viziti miajn ~patrojn.") << "ge~ge" << "DD";
     QTest::newRow("endings") << "La fil~ am~ la patr~." << "o~as~inon" << "MMM";
-    QTest::newRow("a word between blanks") << "Mi ~ vin." << "amas" << "M";
     QTest::newRow("five gaps") << "La bon~ patr~ skrib~ long~ leter~." << "a~o~as~an~on" << "MMMMM";
 }
 

@@ -26,7 +26,6 @@ private slots:
     void cleanupTestCase();
     void demandoj_data();
     void demandoj();
-    void ghustaPerEtikedo();
     void eraroBlinkas();
     void tutaRulado();
     void haltoDumPauzo_data();
@@ -147,18 +146,6 @@ void tst_vortoludo::demandoj()
         klakas(butono("BitBtn20"));
     }
     QCOMPARE(literajVidataj > 0, literaj);
-}
-
-void tst_vortoludo::ghustaPerEtikedo()
-{
-    klakas(butono("BitBtn18"));
-    klakas(ghustaEtikedo());   // back after the pause
-    QCOMPARE(placar(1), 39);
-    QCOMPARE(placar(2), 1);
-    QCOMPARE(placar(4), 100);
-    QVERIFY(!iuMarkita());
-    QVERIFY(grupo()->isEnabled());
-    QVERIFY(ghustaEtikedo());
 }
 
 void tst_vortoludo::eraroBlinkas()

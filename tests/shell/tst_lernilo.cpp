@@ -272,7 +272,7 @@ void tst_lernilo::fermoElLecionoIrasHejmen()
     QApplication::sendEvent(fenestro, &evento);
     QVERIFY(!evento.isAccepted());
     QCOMPARE(fenestro->findChild<QStackedWidget*>("Paghujo")->currentIndex(), 0);
-    QSettings agordoj(savasLoko + "lernilomelo.ini", QSettings::IniFormat);
+    inidosiero agordoj(agordoVojo());
     QVERIFY(!agordoj.contains("Gxenerala/LastaLeciono"));
 }
 
@@ -285,7 +285,7 @@ void tst_lernilo::fermoElHejmoKonservas()
     QApplication::sendEvent(fenestro, &evento);
     QVERIFY(evento.isAccepted());
 
-    QSettings agordoj(savasLoko + "lernilomelo.ini", QSettings::IniFormat);
+    inidosiero agordoj(agordoVojo());
     agordoj.beginGroup("Gxenerala");
     QCOMPARE(agordoj.childKeys().size(), 13);
     QCOMPARE(agordoj.value("LastaLeciono").toInt(), 6);
