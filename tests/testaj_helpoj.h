@@ -9,7 +9,11 @@
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProcess>
 #include <QTimer>
 #include <QFile>
 #include <QSettings>
@@ -65,6 +69,32 @@ inline bool enEkzerco(const QWidget* w)
             return true;
     }
     return false;
+}
+
+// Answers the next print dialog: prints into the PDF file `pdf`, or cancels
+// where `pdf` is empty; keeps the document's name.
+inline void presasAlPdf(const QString& pdf, QString* dokumento = nullptr)
+{
+    QTimer::singleShot(50, [pdf, dokumento] {
+        auto* dialogo = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+        if (!dialogo)
+            return presasAlPdf(pdf, dokumento);
+        if (dokumento)
+            *dokumento = dialogo->printer()->docName();
+        if (pdf.isEmpty())
+            return dialogo->reject();
+        dialogo->findChild<QLineEdit*>("filename")->setText(pdf);
+        dialogo->accept();
+    });
+}
+
+// What a program of poppler-utils says of a PDF file (pdftotext, pdfinfo).
+inline QString pdf(const QString& programo, const QString& dosiero)
+{
+    QProcess p;
+    p.start(programo, programo == QLatin1String("pdftotext") ? QStringList{dosiero, "-"} : QStringList{dosiero});
+    p.waitForFinished(20000);
+    return QString::fromUtf8(p.readAllStandardOutput());
 }
 
 // Clicks the named button of the next modal dialog as soon as it shows (the

@@ -235,22 +235,14 @@ void tst_vortoludo::presadoDumRulado()
 {
     klakas(butono("BitBtn18"));
     const QString demando = vorto();
-    const QString pdf = ujo->path() + "/vortoj.pdf";
-    QTimer::singleShot(50, [pdf] {
-        auto* dialogo = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
-        QVERIFY(dialogo);
-        dialogo->findChild<QLineEdit*>("filename")->setText(pdf);
-        dialogo->accept();
-    });
+    const QString dosiero = ujo->path() + "/vortoj.pdf";
+    presasAlPdf(dosiero);
     klakas(butono("printilo_ps"));
     QCOMPARE(vorto(), demando);
     QCOMPARE(placar(1), 40);
     QVERIFY(grupo()->isEnabled());
 
-    QProcess teksto;
-    teksto.start("pdftotext", {pdf, "-"});
-    QVERIFY(teksto.waitForFinished(20000));
-    const QString enhavo = QString::fromUtf8(teksto.readAllStandardOutput()).simplified();
+    const QString enhavo = pdf("pdftotext", dosiero).simplified();
     QVERIFY2(enhavo.contains("Lernilo - Lec01_0103"), qPrintable(enhavo));
     QVERIFY(enhavo.contains("45) " + fenestro->findChild<QLabel*>("Lec01_Button128")->text()));
     // Every item, past the 40 of a run, has the letter of its right meaning.

@@ -5,11 +5,6 @@
 #include "lernilo.h"
 #include "testaj_helpoj.h"
 
-#include <QLabel>
-#include <QLineEdit>
-#include <QPrintDialog>
-#include <QPrinter>
-#include <QProcess>
 #include <QProgressBar>
 #include <QSignalSpy>
 #include <QTabWidget>
@@ -24,30 +19,6 @@ private slots:
     void nuligita();
 };
 
-// Accepts the print dialog into a PDF file, or cancels it, and keeps its document name.
-static void respondasDialogon(const QString& pdf, QString* dokumento)
-{
-    QTimer::singleShot(50, [pdf, dokumento] {
-        auto* dialogo = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
-        QVERIFY(dialogo);
-        *dokumento = dialogo->printer()->docName();
-        if (pdf.isEmpty()) {
-            dialogo->reject();
-            return;
-        }
-        dialogo->findChild<QLineEdit*>("filename")->setText(pdf);
-        dialogo->accept();
-    });
-}
-
-static QString eligo(const QString& programo, const QStringList& argumentoj)
-{
-    QProcess p;
-    p.start(programo, argumentoj);
-    p.waitForFinished(20000);
-    return QString::fromUtf8(p.readAllStandardOutput());
-}
-
 // Lesson 2: six of its twelve tabs are exercises; the other six share three sheets.
 void tst_presado::presado()
 {
@@ -59,16 +30,16 @@ void tst_presado::presado()
     fenestro.findChild<QAbstractButton*>("Leciono2")->click();
     QTabWidget* langetoj = lecionLangetoj(fenestro.leciono(2));
     langetoj->setCurrentIndex(1);
-    const QString pdf = ujo.path() + "/leciono.pdf";
+    const QString dosiero = ujo.path() + "/leciono.pdf";
     QString dokumento;
-    respondasDialogon(pdf, &dokumento);
+    presasAlPdf(dosiero, &dokumento);
     QMetaObject::invokeMethod(&fenestro, "on_printilo_clicked");
     QCOMPARE(dokumento, QStringLiteral("Leciono 02"));
     QCOMPARE(langetoj->currentIndex(), 1);   // the learner's page comes back
     QVERIFY(fenestro.findChild<QProgressBar*>("prog_printilo")->isHidden());
-    const QString informo = eligo("pdfinfo", {pdf});
+    const QString informo = pdf("pdfinfo", dosiero);
     QVERIFY2(informo.contains(QRegularExpression("Pages:\\s+3\\n")), qPrintable(informo));
-    const QString teksto = eligo("pdftotext", {pdf, "-"}).simplified();
+    const QString teksto = pdf("pdftotext", dosiero).simplified();
     QVERIFY2(teksto.startsWith("Lernilo - Leciono 02"), qPrintable(teksto.left(200)));
 }
 
@@ -80,7 +51,7 @@ void tst_presado::nuligita()
     lernilo fenestro;
     fenestro.findChild<QAbstractButton*>("Leciono13")->click();
     QString dokumento;
-    respondasDialogon(QString(), &dokumento);
+    presasAlPdf(QString(), &dokumento);
     QSignalSpy montro(fenestro.findChild<QProgressBar*>("prog_printilo"), &QProgressBar::valueChanged);
     QMetaObject::invokeMethod(&fenestro, "on_printilo_clicked");
     QCOMPARE(dokumento, QStringLiteral("Fina Ekzameno"));
