@@ -22,7 +22,6 @@ class tst_agordoj : public QObject
 private slots:
     void init();
     void cleanup();
-    void defaultojSenDosiero();
     void legasKajSkribasChiujn();
     void damaghitaDosiero();
     void aplikoEbligataKajMalebligata();
@@ -57,25 +56,6 @@ lernilo* tst_agordoj::malfermas()
 {
     fenestro = new lernilo;
     return fenestro;
-}
-
-void tst_agordoj::defaultojSenDosiero()
-{
-    QFile::remove(savasLoko + "lernilomelo.ini");
-    // The first-run dialog comes; the learner takes what it offers.
-    klakasEnDialogo("pushButton");
-    malfermas();
-    QCOMPARE(iLiterGrando, 11);
-    QCOMPARE(iLiterGrandoEo, 11);
-    QCOMPARE(sTiparo, QStringLiteral("DejaVu Sans"));
-    QCOMPARE(sTiparoEo, QStringLiteral("DejaVu Sans"));
-    QCOMPARE(lCxapeligo, true);
-    QCOMPARE(lSxaltilo, true);
-    QCOMPARE(lNoteto, true);
-    QCOMPARE(iSistemo, 0);
-    QCOMPARE(LastaLeciono, 1);
-    QCOMPARE(LastaPagxo, 0);
-    QVERIFY(!sTradukoDosiero.isEmpty());
 }
 
 void tst_agordoj::legasKajSkribasChiujn()
