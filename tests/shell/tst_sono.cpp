@@ -22,8 +22,6 @@ private slots:
     void cleanupTestCase();
     void jesNeRipetasVorton();
     void jesPauzoNurKunNotoj();
-    void jesSenDosieroTamenShanghasVorton();
-    void neDiras();
     void mesagxo_data();
     void mesagxo();
     void mp3MinuskligasKajSilentasSenFokuso();
@@ -45,8 +43,7 @@ QString tst_sono::ludata() const
 
 void tst_sono::faras(const QString& nomo)
 {
-    QFile f(mrLoko + "sonoj/" + nomo);
-    QVERIFY(f.open(QIODevice::WriteOnly));
+    QVERIFY(QFile(mrLoko + "sonoj/" + nomo).open(QIODevice::WriteOnly));
 }
 
 void tst_sono::initTestCase()
@@ -108,6 +105,11 @@ void tst_sono::jesNeRipetasVorton()
         vortoj.insert(vorto);
     }
     QCOMPARE(vortoj.size(), 6);
+    // Ne says "ne", never the verdict "nebona", and leaves the praise alone.
+    iLastaFojo = 4;
+    Ne();
+    QVERIFY(ludata().startsWith("sonoj/ne") && !ludata().startsWith("sonoj/nebona"));
+    QCOMPARE(iLastaFojo, 4);
 }
 
 void tst_sono::jesPauzoNurKunNotoj()
@@ -134,27 +136,6 @@ void tst_sono::jesPauzoNurKunNotoj()
     Jes();
     QVERIFY(t.elapsed() < 2 * iMsEnSekundo);
     QVERIFY(!ludata().startsWith("sonoj/noteto"));
-}
-
-void tst_sono::jesSenDosieroTamenShanghasVorton()
-{
-    // With no recordings at all, the word is still drawn anew each time.
-    const QString antaua = mrLoko;
-    mrLoko = ujo->path() + "/neniu/";
-    iLastaFojo = 2;
-    Jes();
-    QVERIFY(iLastaFojo != 2);
-    QCOMPARE(ludata(), QString());
-    mrLoko = antaua;
-}
-
-void tst_sono::neDiras()
-{
-    iLastaFojo = 4;
-    Ne();
-    QVERIFY(ludata().startsWith("sonoj/ne"));
-    QVERIFY(!ludata().startsWith("sonoj/nebona"));
-    QCOMPARE(iLastaFojo, 4);
 }
 
 QString tst_sono::fermasSkatolon(std::function<void()> ago)
