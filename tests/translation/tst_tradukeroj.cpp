@@ -19,7 +19,6 @@ private slots:
     void initTestCase();
     void iniLinioLegighasSame_data();
     void iniLinioLegighasSame();
-    void kolektasEtikedojn();
     void tdfAktuala();
     void portugalaAktuala();
 
@@ -60,18 +59,6 @@ void tst_tradukeroj::iniLinioLegighasSame()
     f.write("[Lec01]\r\n" + tradukeroj::iniLinio("Label1", valoro).toUtf8() + "\r\n");
     f.close();
     QCOMPARE(inidosiero(vojo).value("Lec01/Label1").toString(), valoro);
-}
-
-void tst_tradukeroj::kolektasEtikedojn()
-{
-    QWidget pagho;
-    lecionkadro kadro(13, &pagho);
-    const QVector<Tradukero> listo = tradukeroj::deLeciono(kadro.langetoj());
-    QVERIFY(!listo.isEmpty());
-    QCOMPARE(listo.first().numero, 0);
-    QCOMPARE(listo.first().shlosilo, QStringLiteral("Label1"));
-    for (int i = 1; i < listo.size(); ++i)
-        QVERIFY(listo.at(i).numero > listo.at(i - 1).numero);
 }
 
 void tst_tradukeroj::tdfAktuala()
