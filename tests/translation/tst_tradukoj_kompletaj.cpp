@@ -24,9 +24,6 @@ private slots:
     void kompletaj();
     void nenioNetradukita_data();
     void nenioNetradukita();
-    void ekzercajTekstoj_data();
-    void ekzercajTekstoj();
-    void anglajMesaghoj();
 
 private:
     QStringList enhavaj;   // groups of the lessons that have content
@@ -36,7 +33,7 @@ private:
 void tst_tradukoj_kompletaj::initTestCase()
 {
     preparasLokojn(ujo);
-    for (int n = 1; n <= 13; ++n) {
+    for (int n = 1; n <= KiomDaLecionoj; ++n) {
         QWidget pagho;
         lecionkadro kadro(n, &pagho);
         for (const Tradukero& t : tradukeroj::deLeciono(kadro.langetoj())) {
@@ -64,8 +61,7 @@ void tst_tradukoj_kompletaj::kompletaj()
 {
     QFETCH(QString, dosiero);
     QSettings listo(":/tradukoj/tradukendaj.tdf", QSettings::IniFormat);
-    QSettings traduko(":/tradukoj/" + dosiero, QSettings::IniFormat);
-    traduko.setIniCodec("UTF-8");
+    inidosiero traduko(":/tradukoj/" + dosiero);
     QStringList grupoj = {"Gheneralaj", "Konfig", "Menuo", "Menuo4", "Mesagxoj"};
     grupoj += enhavaj;
     QStringList mankas;
@@ -126,54 +122,6 @@ void tst_tradukoj_kompletaj::nenioNetradukita()
         }
     }
     QVERIFY2(malbonaj.isEmpty(), qPrintable(malbonaj.join(", ")));
-}
-
-void tst_tradukoj_kompletaj::ekzercajTekstoj_data()
-{
-    QTest::addColumn<QString>("dosiero");
-    QTest::newRow("English") << "angla.trd";
-    QTest::newRow("Portuguese") << "portugala.trd";
-}
-
-// The exercises of lessons 1 and 2 as a learner sees them in a language:
-// every heading and instruction relabelled, and no button with a text that
-// would stay in the language of the forms.
-void tst_tradukoj_kompletaj::ekzercajTekstoj()
-{
-    QFETCH(QString, dosiero);
-    sTradukoDosiero = dosiero;
-    const QStringList instrukcioj = {"Ekz_Vort1", "Ekz_Vort2", "Ekz_Plen1", "Ekz_Plen2", "Ekz_FrazoKonstruo"};
-    QSet<QString> trovitaj;
-    for (int n : {1, 2}) {
-        QWidget pagho;
-        lecionkadro kadro(n, &pagho);
-        Trad(kadro.langetoj(), kadro.langetoj()->objectName());
-        for (QLabel* l : kadro.findChildren<QLabel*>()) {
-            if (!instrukcioj.contains(l->objectName()))
-                continue;
-            trovitaj << l->objectName();
-            QVERIFY2(l->text() != QLatin1String("Ne Tradukita") && !l->text().isEmpty(), qPrintable(l->objectName()));
-        }
-        for (QAbstractButton* b : kadro.findChildren<QAbstractButton*>()) {
-            if (b->property("tipo").isValid())
-                QVERIFY2(b->text().isEmpty(), qPrintable(b->objectName() + ": " + b->text()));
-        }
-    }
-    QCOMPARE(trovitaj.size(), instrukcioj.size());
-}
-
-void tst_tradukoj_kompletaj::anglajMesaghoj()
-{
-    QSettings angla(":/tradukoj/angla.trd", QSettings::IniFormat);
-    angla.setIniCodec("UTF-8");
-    QCOMPARE(angla.value("Mesagxoj/smGratulon").toString(), QStringLiteral("Congratulations!  Your work was very good!"));
-    QCOMPARE(angla.value("Mesagxoj/smDenove").toString(), QStringLiteral("Your work wasn't good.  Try again!"));
-    QCOMPARE(angla.value("Ekzerco-Klarigoj/0").toString(), QStringLiteral("This is the subject, and a subject can't end with \"n\"."));
-    QCOMPARE(angla.value("Ekzerco-Klarigoj/4").toString(), QStringLiteral("Congratulations!  This is the direct object and must end with \"n\"."));
-    QSettings esperanto(":/tradukoj/esperanto.trd", QSettings::IniFormat);
-    esperanto.setIniCodec("UTF-8");
-    QCOMPARE(esperanto.value("Mesagxoj/smGratulon").toString(), QString::fromUtf8("Gratulon! Via rezulto estis tre bona!"));
-    QCOMPARE(esperanto.value("Mesagxoj/smDenove").toString(), QString::fromUtf8("Via rezulto ne estis bona. Provu denove!"));
 }
 
 QTEST_MAIN(tst_tradukoj_kompletaj)
