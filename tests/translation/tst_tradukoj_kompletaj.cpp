@@ -58,6 +58,7 @@ void tst_tradukoj_kompletaj::kompletaj_data()
     QTest::newRow("English") << "angla.trd";
     QTest::newRow("Esperanto") << "esperanto.trd";
     QTest::newRow("Portuguese") << "portugala.trd";
+    QTest::newRow("French") << "franca.trd";
 }
 
 void tst_tradukoj_kompletaj::kompletaj()
