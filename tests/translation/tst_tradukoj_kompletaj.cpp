@@ -58,6 +58,7 @@ void tst_tradukoj_kompletaj::kompletaj_data()
     QTest::newRow("English") << "angla.trd";
     QTest::newRow("Esperanto") << "esperanto.trd";
     QTest::newRow("Portuguese") << "portugala.trd";
+    QTest::newRow("German") << "germana.trd";
 }
 
 void tst_tradukoj_kompletaj::kompletaj()
@@ -133,6 +134,7 @@ void tst_tradukoj_kompletaj::ekzercajTekstoj_data()
     QTest::addColumn<QString>("dosiero");
     QTest::newRow("English") << "angla.trd";
     QTest::newRow("Portuguese") << "portugala.trd";
+    QTest::newRow("German") << "germana.trd";
 }
 
 // The exercises of lessons 1 and 2 as a learner sees them in a language:
