@@ -16,6 +16,7 @@
 #include <QLineEdit>
 #include <QPlainTextEdit>
 #include "lecionkadro.h"
+#include "inidosiero.h"
 #include "mp3ludilo.h"
 #include "traduko.h"
 #include <QMediaPlayer>
@@ -51,8 +52,7 @@ void preparas(const QTemporaryDir& ujo)
     mrLoko = QCoreApplication::applicationDirPath() + QStringLiteral("/../");
     savasLoko = ujo.path() + QStringLiteral("/");
     sServilo = QStringLiteral("http://127.0.0.1:9");
-    QSettings agordoj(savasLoko + QStringLiteral("lernilomelo.ini"), QSettings::IniFormat);
-    agordoj.setIniCodec("UTF-8");
+    inidosiero agordoj(savasLoko + QStringLiteral("lernilomelo.ini"));
     agordoj.setValue(QStringLiteral("Gxenerala/Lingvo"), QString::fromUtf8("English — angla"));
     agordoj.setValue(QStringLiteral("Gxenerala/Dosiero"), QStringLiteral("angla.trd"));
     agordoj.sync();
@@ -344,7 +344,7 @@ int main(int argc, char** argv)
         QWidget pagho;
         lecionkadro kadro(n, &pagho);
         for (mp3ludilo* l : kadro.findChildren<mp3ludilo*>()) {
-            const QString vojo = mrLoko + mp3ludilo::dosiero(l->objectName());
+            const QString vojo = mrLoko + legoSono(l->objectName());
             if (!QFileInfo::exists(vojo)) {
                 el << QStringLiteral("  %1 (no recording yet)\n").arg(l->objectName(), -20);
                 continue;

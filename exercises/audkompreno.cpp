@@ -40,13 +40,6 @@ audkompreno::~audkompreno()
     delete ui;
 }
 
-QString audkompreno::sonoDe(const QString& vico, const QString& ciferoj)
-{
-    if (vico.toInt() < 1)
-        return vortoSono(ciferoj, vico, true);
-    return frazoSono(ciferoj, vico);
-}
-
 void audkompreno::on_BitBtn8_clicked()
 {
     etikedoj = ui->vortujo->findChildren<QLabel*>();
@@ -82,7 +75,7 @@ void audkompreno::novavorto()
     do
         nuna = random(kiom);
     while (uzitaj[nuna]);
-    sono = sonoDe(datumoj[nuna], kodo.left(2));
+    sono = ekzercaSono(kodo.left(2), datumoj[nuna], true);
     mp3(sono);
     ui->Edit1->clear();
     ui->Edit1->setFocus(Qt::OtherFocusReason);
@@ -111,9 +104,7 @@ QString audkompreno::atendata() const
     const QString vico = datumoj.value(nuna);
     if (vico.toInt() < 1)
         return vico;
-    QObject* o = parent();
-    while (o && qstrcmp(o->metaObject()->className(), "QTabWidget") != 0)
-        o = o->parent();
+    QWidget* o = praulo(this, "QTabWidget");
     if (!o)
         return QString();
     const auto vortoj = o->findChildren<klakbutono_nova*>(leciono + QStringLiteral("_Button") + vico);

@@ -24,10 +24,6 @@ public:
     explicit audkompreno(QWidget* parent = nullptr);
     ~audkompreno() override;
 
-    // The sound of a data row: a word of the lesson, or the phrase of the
-    // clickable word whose number the row holds. `ciferoj`: the lesson's digits.
-    static QString sonoDe(const QString& vico, const QString& ciferoj);
-
 public slots:
     void on_BitBtn8_clicked();
     void novavorto();

@@ -130,12 +130,12 @@ void ekzerco1::novavorto()
     mp3(sonvojo);
     ui->BitBtn3->setEnabled(true);
     ui->butonujo->setFocus();
-    blokita = false;
+    okupita = false;
 }
 
 void ekzerco1::vortoklako(int i)
 {
-    if (blokita)
+    if (okupita)
         return;
 
     if (butonoj[i]->text() == vortoj[elektitaj[nuna]]) {
@@ -146,21 +146,21 @@ void ekzerco1::vortoklako(int i)
         butonoj[i]->setEnabled(false);
         nova_rondo = false;
     } else {
-        const int ciurulado = rulado;
-        blokita = true;
+        const int mia = rulado;
+        okupita = true;
         ui->BitBtn3->setEnabled(false);
         Ne();
-        if (ciurulado != rulado)
+        if (mia != rulado)
             return;
         ++eraroj;
         ui->Placar3->setValue(eraroj);
         ui->butonujo->setEnabled(false);
         tekstoblinko(butonoj[pozicioj[nuna]]);
         ui->butonujo->setEnabled(true);
-        if (ciurulado != rulado)
+        if (mia != rulado)
             return;
         ui->BitBtn3->setEnabled(true);
-        blokita = false;
+        okupita = false;
     }
 
     ui->Placar4->setValue(sukcesoj * 100 / (sukcesoj + eraroj));

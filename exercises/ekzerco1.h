@@ -53,7 +53,7 @@ protected:
     int falsaj[2] = {};
     bool faritaj[6] = {};
     QString sonvojo;
-    bool blokita = false;
+    bool okupita = false;
     bool nova_rondo = false;
 
 private:

@@ -82,13 +82,7 @@ void frazokonstruo::on_BitBtn1_clicked()
 {
     // The sentences live in the lesson's other pages; a frame shown outside
     // a tab widget searches its whole window instead.
-    langeto = nullptr;
-    for (QWidget* w = parentWidget(); w; w = w->parentWidget()) {
-        if (qstrcmp(w->metaObject()->className(), "QTabWidget") == 0) {
-            langeto = w;
-            break;
-        }
-    }
+    langeto = praulo(this, "QTabWidget");
     if (!langeto)
         langeto = window();
 

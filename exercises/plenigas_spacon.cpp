@@ -51,7 +51,7 @@ void plenigas_spacon::on_BitBtn4_clicked()
     // A sentence without its answers has no gaps rather than no row.
     while (respondoj.size() < kiom)
         respondoj.append(QStringList({QString(), QString(), QString(), QString(), QString(), QString()}));
-    ++rulnumero;
+    ++rulado;
     atendas = false;
     if (kiom < 1) {
         on_BitBtn5_clicked();
@@ -131,7 +131,7 @@ void plenigas_spacon::novafrazo()
 
 void plenigas_spacon::on_BitBtn6_clicked()
 {
-    if (kontrolas || atendas || !ui->BitBtn5->isEnabled() || nuna < 0 || nuna >= respondoj.size())
+    if (okupita || atendas || !ui->BitBtn5->isEnabled() || nuna < 0 || nuna >= respondoj.size())
         return;
     const QStringList& r = respondoj.at(nuna);
     QList<bool> malghustaj;
@@ -139,8 +139,8 @@ void plenigas_spacon::on_BitBtn6_clicked()
         malghustaj.append(purigas(kampoj.at(k)->text(), true) != r.value(k));
     const bool ghusta = !malghustaj.contains(true);
 
-    kontrolas = true;
-    const int rulo = rulnumero;
+    okupita = true;
+    const int mia = rulado;
     ui->BitBtn6->setEnabled(false);
     for (QLineEdit* kampo : qAsConst(kampoj))
         kampo->setEnabled(false);
@@ -159,8 +159,8 @@ void plenigas_spacon::on_BitBtn6_clicked()
         Jes();
     else
         Ne();
-    kontrolas = false;
-    if (rulo != rulnumero)
+    okupita = false;
+    if (mia != rulado)
         return;
     ui->BitBtn6->setEnabled(true);
 
@@ -193,7 +193,7 @@ void plenigas_spacon::on_antauen_clicked()
 
 void plenigas_spacon::on_BitBtn5_clicked()
 {
-    ++rulnumero;
+    ++rulado;
     atendas = false;
     ui->BitBtn4->setEnabled(true);
     ui->BitBtn5->setEnabled(false);

@@ -63,8 +63,8 @@ private:
     Ui::plenigas_spacon* ui;
     // Jes() and Ne() run the event loop: a second Check meanwhile is refused,
     // and a Stop or a new Start meanwhile ends the first one's work.
-    bool kontrolas = false;
-    int rulnumero = 0;
+    bool okupita = false;
+    int rulado = 0;
 };
 
 #endif

@@ -71,14 +71,6 @@ prononco::~prononco()
     delete ui;
 }
 
-QString prononco::sonoDe(const QString& vico, const QString& ciferoj)
-{
-    // Unlike a clicked word, the model of "aŭ" keeps its x-system name.
-    if (vico.toInt() < 1)
-        return vortoSono(ciferoj, vico, false);
-    return frazoSono(ciferoj, vico);
-}
-
 QString prononco::registrajho(int i) const
 {
     return savejo + QStringLiteral("prononco") + QString::number(i);
@@ -128,14 +120,12 @@ void prononco::novafrazo()
         while (uzitaj[nuna]);
         uzitaj[nuna] = true;
         const QString vico = datumoj[nuna];
-        elementoj[i].sono = sonoDe(vico, ciferoj);
+        elementoj[i].sono = ekzercaSono(ciferoj, vico, false);  // the model of "aŭ" keeps its x-system name
         if (vico.toInt() < 1) {
             elementoj[i].vorto = vico;
             continue;
         }
-        QObject* o = parent();
-        while (o && qstrcmp(o->metaObject()->className(), "QTabWidget") != 0)
-            o = o->parent();
+        QWidget* o = praulo(this, "QTabWidget");
         const auto vortoj = o ? o->findChildren<klakbutono_nova*>(prefikso + QStringLiteral("_Button") + vico)
                               : QList<klakbutono_nova*>();
         elementoj[i].vorto = vortoj.isEmpty() ? QString() : vortoj.first()->text();

@@ -28,10 +28,6 @@ class prononco : public QFrame
 public:
     explicit prononco(QWidget* parent = nullptr);
     ~prononco() override;
-
-    // The model of a data row: the word's sound, or the phrase of the
-    // clickable word whose number the row holds. `ciferoj`: the lesson's digits.
-    static QString sonoDe(const QString& vico, const QString& ciferoj);
     // The file item i of a step is recorded to and played back from.
     QString registrajho(int i) const;
 

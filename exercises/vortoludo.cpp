@@ -17,16 +17,6 @@ int lokoj(int kiom)
     return qMin(5, kiom);
 }
 
-// The lesson's tab widget, which holds the words and meanings named by the data.
-QWidget* langetojDe(const QWidget* kadro)
-{
-    for (QWidget* w = kadro->parentWidget(); w; w = w->parentWidget()) {
-        if (qstrcmp(w->metaObject()->className(), "QTabWidget") == 0)
-            return w;
-    }
-    return nullptr;
-}
-
 // A value that does not read as a positive number is the word itself.
 QString vorto(QWidget* langetoj, const QString& prefikso, const QString& valoro, bool ankauNeklakebla)
 {
@@ -147,7 +137,7 @@ void vortoludo::novafrazo()
         nuna = random(kiom);
     while (uzitaj.at(nuna));
 
-    QWidget* radiko = langetojDe(this);
+    QWidget* radiko = praulo(this, "QTabWidget");   // holds the words and meanings the data names
     etikedoj.at(0)->setText(vorto(radiko, prefikso, datumoj.value(nuna), true));
 
     const int n = lokoj(kiom);
@@ -243,7 +233,7 @@ QString vortoludo::folio() const
     _Matriz(&signifoj, id, QStringLiteral("R"));
 
     const QString folioPrefikso = objectName().left(6);
-    QWidget* radiko = langetojDe(this);
+    QWidget* radiko = praulo(this, "QTabWidget");   // holds the words and meanings the data names
     const QStringList literoj = {QStringLiteral("a"), QStringLiteral("b"), QStringLiteral("c"),
                                  QString::fromUtf8("ĉ"), QStringLiteral("d")};
     const QString skatolo = ltr ? QStringLiteral("[&nbsp;&nbsp;]&nbsp;") : QStringLiteral("&nbsp;[&nbsp;&nbsp;]") + LRM;

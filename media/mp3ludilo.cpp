@@ -24,16 +24,9 @@ mp3ludilo::~mp3ludilo()
     delete ui;
 }
 
-QString mp3ludilo::dosiero(const QString& nomo)
-{
-    return QStringLiteral("sonoj/") + nomo.left(5).toLower() + QLatin1Char('/') + nomo.mid(6) + mp3_finajho;
-}
-
 void mp3ludilo::on_Ludu_clicked()
 {
-    QObject* o = parent();
-    while (o && qstrcmp(o->metaObject()->className(), "QTabWidget") != 0)
-        o = o->parent();
+    QWidget* o = praulo(this, "QTabWidget");
     if (o)
         tabo = static_cast<QTabWidget*>(o)->currentIndex();
 
@@ -53,7 +46,7 @@ void mp3ludilo::on_Ludu_clicked()
         setUpdatesEnabled(true);
         return;
     }
-    const QString vojo = mrLoko + dosiero(objectName());
+    const QString vojo = mrLoko + legoSono(objectName());
     ludilo->setMedia(sSistemo == QLatin1String("android") ? QUrl(vojo) : QUrl::fromLocalFile(vojo));
     ludilo->play();
     ui->Chesu->show();

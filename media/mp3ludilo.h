@@ -20,9 +20,6 @@ public:
     explicit mp3ludilo(QWidget* parent = nullptr);
     ~mp3ludilo() override;
 
-    // The recording of a strip of this name, relative to the media folder.
-    static QString dosiero(const QString& nomo);
-
 public slots:
     void on_Ludu_clicked();
     void on_Pauzu_clicked();

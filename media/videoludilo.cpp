@@ -75,10 +75,7 @@ void videoludilo::showEvent(QShowEvent* evento)
     QFrame::showEvent(evento);
     if (rulujo || !ludilo)
         return;
-    QObject* o = parent();
-    while (o && qstrcmp(o->metaObject()->className(), "QScrollArea") != 0)
-        o = o->parent();
-    rulujo = static_cast<QScrollArea*>(o);
+    rulujo = static_cast<QScrollArea*>(praulo(this, "QScrollArea"));
     ludilo->setMedia(QUrl::fromLocalFile(filmoVojo()));
 }
 

@@ -4,12 +4,28 @@
 // Process-wide state of the course and the free functions that the
 // subsystems share. The globals are plain variables on purpose: every part of
 // the program reads them directly, and all of it runs on the GUI thread.
+//
+// Each function lives in the folder of its subsystem:
+//   shell/funkcioj.cpp            the globals, the folders, the draw
+//   shell/arbo.cpp                finding widgets in the window's tree
+//   input/literoj.cpp             letter systems, cleaning of typed answers
+//   media/sonoj.cpp               sound-file names, the player
+//   media/parolado.cpp            notes, spoken feedback, the verdict box, pauses
+//   translation/tradukado.cpp     relabelling of a lesson, the translation file
+//   translation/lingvovicoj.cpp   language rows
+//   written/respondoj.cpp         saved answers of the written pages
+//   written/sendado.cpp           hand-in
+//   written/presado.cpp           printing of a lesson
+//   exercises/ekzercdatumoj.cpp   exercise data, the limit of a run
+//   exercises/blinko.cpp          the blink of a right answer
 
 #include <QString>
 #include <QStringList>
 #include <QList>
+#include <QPair>
 #include <QVector>
 
+class QObject;
 class QWidget;
 class QLabel;
 class QTabWidget;
@@ -19,6 +35,9 @@ class QSettings;
 // File-name endings of every sound and every video file.
 static const QString mp3_finajho = QStringLiteral(".oga");
 static const QString video_finajho = QStringLiteral(".ogv");
+
+// The lessons of the course, numbered from 1; the last is the final exam.
+constexpr int KiomDaLecionoj = 13;
 
 // Locations, filled once by main().
 extern QString sSistemo;    // "linux", "windows", "osx", "android", "ios"
@@ -85,6 +104,11 @@ QString CxSist(QString teksto, int sistemo);
 // shows it. `ciferoj` are the lesson's two digits.
 QString vortoSono(const QString& ciferoj, const QString& vorto, bool auh);
 QString frazoSono(const QString& ciferoj, const QString& numero);
+// A row of a listening or pronunciation exercise: a positive number names
+// the phrase of that clickable word, anything else is a word.
+QString ekzercaSono(const QString& ciferoj, const QString& vico, bool auh);
+// The reading text of the player named LecNN_name: sonoj/lecNN/name.
+QString legoSono(const QString& ludilo);
 
 // Plays a sound file given relative to the media folder, through the main
 // window's one player. Silent while another window is active.
@@ -130,6 +154,16 @@ QVector<TradukendaEtikedo> tradukendajEtikedoj(QTabWidget* langetoj);
 // Relabels one lesson from the current translation file: every label by
 // its object name, the arrows and alignments by the file's direction.
 void Trad(QWidget* radiko, QString grupo);
+// The translation file to read: the one in the writable folder where the
+// name is safe and the file is there, otherwise the one in the resources.
+QString legotaTraduko();
+// The key of a gap exercise's instruction label Ekz_Plen2 in its lesson's
+// group: the lesson's second gap exercise (its frame has a "B" after the
+// lesson number) has a key of its own.
+QString instrukciaShlosilo(const QObject* etikedo);
+// The labels whose text is common to all exercises of a kind, each with its
+// key in the group Gheneralaj, in the order of that group.
+const QVector<QPair<QString, QString>>& gheneralajEtikedoj();
 
 // The settings file, lernilomelo.ini in the writable folder.
 QString agordoVojo();
@@ -176,6 +210,11 @@ void Sendas_Printilo(QTabWidget* langetoj, QString titolo, QProgressBar* progres
 
 // The farewell, spoken when the program ends.
 void Adiau();
+
+// The nearest ancestor of `objekto` whose class is named `klaso`, or null.
+QWidget* praulo(const QObject* objekto, const char* klaso);
+// The lesson's tab widget on a page of the main window, or null.
+QTabWidget* lecionLangetoj(const QWidget* pagho);
 
 // A draw from 0 to n-1; 0 for n = 0.
 int random(int n);

@@ -5,6 +5,7 @@
 #include "funkcioj.h"
 #include "lecionkadro.h"
 #include "lingvoelekto.h"
+#include "inidosiero.h"
 #include "traduko.h"
 
 #include <QCloseEvent>
@@ -31,6 +32,56 @@ namespace {
 QString lecionaPagho(int numero)
 {
     return QStringLiteral("Pagho%1").arg(numero, 2, 10, QLatin1Char('0'));
+}
+
+// One setting of group Gxenerala: its key, the global it fills (a text, a
+// number or a switch) and its value where the file has none.
+struct Agordo
+{
+    const char* shlosilo;
+    QString* teksto;
+    int* nombro;
+    bool* shaltilo;
+    QVariant defaulto;
+
+    void legas(const QSettings& agordoj) const
+    {
+        const QVariant v = agordoj.value(QLatin1String(shlosilo), defaulto);
+        if (teksto)
+            *teksto = v.toString();
+        else if (nombro)
+            *nombro = v.toInt();
+        else
+            *shaltilo = v.toBool();
+    }
+
+    void skribas(QSettings& agordoj) const
+    {
+        agordoj.setValue(QLatin1String(shlosilo),
+                         teksto ? QVariant(*teksto) : nombro ? QVariant(*nombro) : QVariant(*shaltilo));
+    }
+};
+
+// Every setting the program keeps, read at the start and written at the end.
+QVector<Agordo> agordoj()
+{
+    const QString tiparo = sSistemo == QLatin1String("osx") ? QStringLiteral("Helvetica Neue")
+                                                             : QStringLiteral("DejaVu Sans");
+    return {
+        {"Lingvo", &sLingvo, nullptr, nullptr, QString()},
+        {"Tiparo", &sTiparo, nullptr, nullptr, tiparo},
+        {"TiparoEo", &sTiparoEo, nullptr, nullptr, tiparo},
+        {"Dosiero", &sTradukoDosiero, nullptr, nullptr, QString()},
+        {"Cxapeligo", nullptr, nullptr, &lCxapeligo, true},
+        {"Sistemo", nullptr, &iSistemo, nullptr, 0},
+        {"LastaLeciono", nullptr, &LastaLeciono, nullptr, 1},
+        {"LastaPagxo", nullptr, &LastaPagxo, nullptr, 0},
+        {"Sxaltilo", nullptr, nullptr, &lSxaltilo, true},
+        {"Noteto", nullptr, nullptr, &lNoteto, true},
+        {"LiterGrando", nullptr, &iLiterGrando, nullptr, 11},
+        {"LiterGrandoEo", nullptr, &iLiterGrandoEo, nullptr, 11},
+        {"FenestraStilo", nullptr, &iFenestraStilo, nullptr, 0},
+    };
 }
 
 } // namespace
@@ -62,7 +113,7 @@ lernilo::lernilo(QWidget* parent)
     ui->paghopiedo->hide();
 
     ludilo = new QMediaPlayer(this);
-    for (int i = 0; i < 13; ++i)
+    for (int i = 0; i < KiomDaLecionoj; ++i)
         tradukitaj.append(QString());
     komencakonfiguro();
     ui->Paghujo->setCurrentIndex(0);
@@ -85,30 +136,16 @@ lernilo::~lernilo()
 
 QFrame* lernilo::leciono(int numero) const
 {
-    return numero >= 1 && numero <= 13 ? lecionoj[numero - 1] : nullptr;
+    return numero >= 1 && numero <= KiomDaLecionoj ? lecionoj[numero - 1] : nullptr;
 }
 
 void lernilo::komencakonfiguro()
 {
-    QSettings agordoj(agordoVojo(), QSettings::IniFormat);
-    agordoj.setIniCodec("UTF-8");
-    const QString tiparo = sSistemo == QLatin1String("osx") ? QStringLiteral("Helvetica Neue")
-                                                             : QStringLiteral("DejaVu Sans");
-    agordoj.beginGroup(QStringLiteral("Gxenerala"));
-    sLingvo = agordoj.value(QStringLiteral("Lingvo"), QString()).toString();
-    sTradukoDosiero = agordoj.value(QStringLiteral("Dosiero"), QString()).toString();
-    iLiterGrando = agordoj.value(QStringLiteral("LiterGrando"), 11).toInt();
-    sTiparo = agordoj.value(QStringLiteral("Tiparo"), tiparo).toString();
-    sTiparoEo = agordoj.value(QStringLiteral("TiparoEo"), tiparo).toString();
-    lCxapeligo = agordoj.value(QStringLiteral("Cxapeligo"), true).toBool();
-    iSistemo = agordoj.value(QStringLiteral("Sistemo"), 0).toInt();
-    LastaLeciono = agordoj.value(QStringLiteral("LastaLeciono"), 1).toInt();
-    LastaPagxo = agordoj.value(QStringLiteral("LastaPagxo"), 0).toInt();
-    lSxaltilo = agordoj.value(QStringLiteral("Sxaltilo"), true).toBool();
-    lNoteto = agordoj.value(QStringLiteral("Noteto"), true).toBool();
-    iLiterGrandoEo = agordoj.value(QStringLiteral("LiterGrandoEo"), 11).toInt();
-    iFenestraStilo = agordoj.value(QStringLiteral("FenestraStilo"), 0).toInt();
-    agordoj.endGroup();
+    inidosiero dosiero(agordoVojo());
+    dosiero.beginGroup(QStringLiteral("Gxenerala"));
+    for (const Agordo& a : agordoj())
+        a.legas(dosiero);
+    dosiero.endGroup();
     if (!sekuraDosierNomo(sTradukoDosiero))
         sTradukoDosiero.clear();   // a damaged setting: choose the language anew
 
@@ -142,8 +179,7 @@ void lernilo::elshutas(const QString& vojo, const QString& nomo, const char* pos
 
 void lernilo::aktualigasTradukon()
 {
-    QSettings traduko(savasLoko + sTradukoDosiero, QSettings::IniFormat);
-    traduko.setIniCodec("UTF-8");
+    inidosiero traduko(savasLoko + sTradukoDosiero);
     traduko.beginGroup(QStringLiteral("Traduko"));
     sLingvoID = traduko.value(QStringLiteral("LingvoID"), QStringLiteral("en")).toString();
     const QDate loka = QDate::fromString(traduko.value(QStringLiteral("Dato"), QStringLiteral("01.01.2000")).toString(),
@@ -155,8 +191,7 @@ void lernilo::aktualigasTradukon()
         Traduku();
         return;
     }
-    QSettings listo(listoVojo, QSettings::IniFormat);
-    listo.setIniCodec("UTF-8");
+    inidosiero listo(listoVojo);
     bool trovita = false;
     for (int i = 0; i < 200 && !trovita; ++i) {
         listo.beginGroup(QString::number(i));
@@ -180,34 +215,30 @@ void lernilo::aktualigasTradukon()
 
 void lernilo::Traduku()
 {
-    QString vojo = savasLoko + sTradukoDosiero;
-    if (!sekuraDosierNomo(sTradukoDosiero) || !QFile::exists(vojo)) {
-        vojo = QStringLiteral(":/tradukoj/") + sTradukoDosiero;
-        if (sTradukoDosiero.isEmpty() || !QFile::exists(vojo)) {
-            vojo = QStringLiteral(":/tradukoj/angla.trd");
-            if (QFile::exists(vojo)) {
-                QMessageBox averto(QMessageBox::Warning, QString(),
-                    QStringLiteral("The translation file ") + sTradukoDosiero
-                        + QStringLiteral(" could not be found. English translation will be used as default."),
-                    QMessageBox::Ok, QApplication::activeWindow());
-                averto.exec();
-                sTradukoDosiero = QStringLiteral("angla.trd");
-                sLingvo = QStringLiteral("English — Angla");
-            } else {
-                QMessageBox eraro(QMessageBox::Critical, QString(),
-                    QStringLiteral("The translation file ") + sTradukoDosiero
-                        + QStringLiteral(" could not be found. The English translation file (angla.trd) could not be found either. \n"
-                                         "Please check the path or reinstall Lernilo. \nProgram will quit now."),
-                    QMessageBox::Ok, QApplication::activeWindow());
-                eraro.exec();
-                NeEkzistasTraduko = true;
-                QCoreApplication::exit(1);
-            }
+    QString vojo = legotaTraduko();
+    if (sTradukoDosiero.isEmpty() || !QFile::exists(vojo)) {
+        vojo = QStringLiteral(":/tradukoj/angla.trd");
+        if (QFile::exists(vojo)) {
+            QMessageBox averto(QMessageBox::Warning, QString(),
+                QStringLiteral("The translation file ") + sTradukoDosiero
+                    + QStringLiteral(" could not be found. English translation will be used as default."),
+                QMessageBox::Ok, QApplication::activeWindow());
+            averto.exec();
+            sTradukoDosiero = QStringLiteral("angla.trd");
+            sLingvo = QStringLiteral("English — Angla");
+        } else {
+            QMessageBox eraro(QMessageBox::Critical, QString(),
+                QStringLiteral("The translation file ") + sTradukoDosiero
+                    + QStringLiteral(" could not be found. The English translation file (angla.trd) could not be found either. \n"
+                                     "Please check the path or reinstall Lernilo. \nProgram will quit now."),
+                QMessageBox::Ok, QApplication::activeWindow());
+            eraro.exec();
+            NeEkzistasTraduko = true;
+            QCoreApplication::exit(1);
         }
     }
 
-    QSettings traduko(vojo, QSettings::IniFormat);
-    traduko.setIniCodec("UTF-8");
+    inidosiero traduko(vojo);
     const QString ne = QStringLiteral("Ne Tradukita");
     traduko.beginGroup(QStringLiteral("Traduko"));
     sTradukinto = traduko.value(QStringLiteral("Tradukinto"), QString()).toString();
@@ -269,8 +300,7 @@ void lernilo::Traduku()
 void lernilo::ListigasLingvojn()
 {
     const QString listoVojo = savasLoko + QStringLiteral("traduklisto.ini");
-    QSettings listo(listoVojo, QSettings::IniFormat);
-    listo.setIniCodec("UTF-8");
+    inidosiero listo(listoVojo);
     if (QFile::exists(listoVojo) && listaVico(listo, 0).at(0) != QLatin1String("??")) {
         for (int i = 0; i < 200; ++i) {
             const QStringList vico = listaVico(listo, i);
@@ -490,24 +520,12 @@ void lernilo::Saluton()
 
 void lernilo::SavasKonfig()
 {
-    QSettings agordoj(agordoVojo(), QSettings::IniFormat);
-    agordoj.setIniCodec("UTF-8");
-    agordoj.beginGroup(QStringLiteral("Gxenerala"));
-    agordoj.setValue(QStringLiteral("Lingvo"), sLingvo);
-    agordoj.setValue(QStringLiteral("Tiparo"), sTiparo);
-    agordoj.setValue(QStringLiteral("TiparoEo"), sTiparoEo);
-    agordoj.setValue(QStringLiteral("Dosiero"), sTradukoDosiero);
-    agordoj.setValue(QStringLiteral("Cxapeligo"), lCxapeligo);
-    agordoj.setValue(QStringLiteral("Sistemo"), iSistemo);
-    agordoj.setValue(QStringLiteral("LastaLeciono"), LastaLeciono);
-    agordoj.setValue(QStringLiteral("LastaPagxo"), LastaPagxo);
-    agordoj.setValue(QStringLiteral("Sxaltilo"), lSxaltilo);
-    agordoj.setValue(QStringLiteral("Noteto"), lNoteto);
-    agordoj.setValue(QStringLiteral("LiterGrando"), iLiterGrando);
-    agordoj.setValue(QStringLiteral("LiterGrandoEo"), iLiterGrandoEo);
-    agordoj.setValue(QStringLiteral("FenestraStilo"), iFenestraStilo);
-    agordoj.endGroup();
-    agordoj.sync();
+    inidosiero dosiero(agordoVojo());
+    dosiero.beginGroup(QStringLiteral("Gxenerala"));
+    for (const Agordo& a : agordoj())
+        a.skribas(dosiero);
+    dosiero.endGroup();
+    dosiero.sync();
 }
 
 void lernilo::ShanghasPaghon(QString pagho, QFrame* leciono)
@@ -526,7 +544,7 @@ void lernilo::ShanghasPaghon(QString pagho, QFrame* leciono)
             : QStringLiteral("QTabBar::tab {height: 0px; width: 0px;} QTabWidget::tab-bar {height: 0px; width: 0px;}"));
         bool bone = false;
         const int numero = pagho.startsWith(QLatin1String("Pagho")) ? pagho.mid(5).toInt(&bone) : 0;
-        if (bone && pagho.size() == 7 && numero >= 1 && numero <= 13) {
+        if (bone && pagho.size() == 7 && numero >= 1 && numero <= KiomDaLecionoj) {
             // Built once a run: a click during the build finds the pointer set.
             auto* kadro = new lecionkadro(numero, pagh);
             lecionoj[numero - 1] = kadro;
@@ -544,11 +562,9 @@ void lernilo::ShanghasPaghon(QString pagho, QFrame* leciono)
     }
 
     ui->Paghujo->setCurrentWidget(pagh);
-    const QList<QTabWidget*> abas = pagh->findChildren<QTabWidget*>();
-    if (!abas.isEmpty()) {
-        QTabWidget* langetoj = abas.first();
+    if (QTabWidget* langetoj = lecionLangetoj(pagh)) {
         const int numero = pagho.right(2).toInt();
-        if (numero >= 1 && numero <= 13 && tradukitaj.at(numero - 1) != sTradukoDosiero) {
+        if (numero >= 1 && numero <= KiomDaLecionoj && tradukitaj.at(numero - 1) != sTradukoDosiero) {
             Trad(pagh, langetoj->objectName());
             tradukitaj[numero - 1] = sTradukoDosiero;
         }
@@ -578,11 +594,7 @@ void lernilo::ShanghasPaghon(QString pagho, QFrame* leciono)
 
 void lernilo::komencas_navigujon()
 {
-    QString vojo = savasLoko + sTradukoDosiero;
-    if (sTradukoDosiero.isEmpty() || !QFile::exists(vojo))
-        vojo = QStringLiteral(":/tradukoj/") + sTradukoDosiero;
-    QSettings traduko(vojo, QSettings::IniFormat);
-    traduko.setIniCodec("UTF-8");
+    inidosiero traduko(legotaTraduko());
     const QString direkto = traduko.value(QStringLiteral("Traduko/Direkto"), QStringLiteral("LTR")).toString();
 
     const QIcon malantauen(QStringLiteral(":/ikonoj_androjdo/baseline_arrow_back_black_36.png"));
@@ -591,15 +603,11 @@ void lernilo::komencas_navigujon()
     ui->maldekstren->setIcon(ltr ? malantauen : antauen);
     ui->dekstren->setIcon(ltr ? antauen : malantauen);
 
-    if (QWidget* pagho = ui->Paghujo->currentWidget()) {
-        const QList<QTabWidget*> abas = pagho->findChildren<QTabWidget*>();
-        if (!abas.isEmpty()) {
-            QTabWidget* langetoj = abas.first();
-            ui->kiom_da_paghoj->setText(QStringLiteral("%1/%2").arg(langetoj->currentIndex() + 1).arg(langetoj->count()));
-            if (QObject* kadro = langetoj->parent()) {
-                const QString ciferoj = kadro->objectName().mid(3);
-                ui->leciono->setPixmap(QPixmap(QStringLiteral(":/ikonoj_androjdo/hejmo/leciono") + ciferoj + QStringLiteral(".png")));
-            }
+    if (QTabWidget* langetoj = lecionLangetoj(ui->Paghujo->currentWidget())) {
+        ui->kiom_da_paghoj->setText(QStringLiteral("%1/%2").arg(langetoj->currentIndex() + 1).arg(langetoj->count()));
+        if (QObject* kadro = langetoj->parent()) {
+            const QString ciferoj = kadro->objectName().mid(3);
+            ui->leciono->setPixmap(QPixmap(QStringLiteral(":/ikonoj_androjdo/hejmo/leciono") + ciferoj + QStringLiteral(".png")));
         }
     }
     ui->shanghasKonfigurojn->hide();
@@ -607,11 +615,9 @@ void lernilo::komencas_navigujon()
 
 void lernilo::on_dekstren_clicked()
 {
-    QWidget* pagho = ui->Paghujo->currentWidget();
-    const QList<QTabWidget*> abas = pagho ? pagho->findChildren<QTabWidget*>() : QList<QTabWidget*>();
-    if (abas.isEmpty())
+    QTabWidget* langetoj = lecionLangetoj(ui->Paghujo->currentWidget());
+    if (!langetoj)
         return;
-    QTabWidget* langetoj = abas.first();
     const int kiom = langetoj->count();
     const int nuna = langetoj->currentIndex();
     const int nova = nuna == kiom - 1 ? 0 : nuna + 1;
@@ -621,11 +627,9 @@ void lernilo::on_dekstren_clicked()
 
 void lernilo::on_maldekstren_clicked()
 {
-    QWidget* pagho = ui->Paghujo->currentWidget();
-    const QList<QTabWidget*> abas = pagho ? pagho->findChildren<QTabWidget*>() : QList<QTabWidget*>();
-    if (abas.isEmpty())
+    QTabWidget* langetoj = lecionLangetoj(ui->Paghujo->currentWidget());
+    if (!langetoj)
         return;
-    QTabWidget* langetoj = abas.first();
     const int kiom = langetoj->count();
     const int nuna = langetoj->currentIndex();
     const int nova = nuna == 0 ? kiom - 1 : nuna - 1;
@@ -661,7 +665,7 @@ void lernilo::on_Leciono13_clicked() { malfermasLecionon(13); }
 
 void lernilo::on_KieButono_clicked()
 {
-    if (LastaLeciono < 1 || LastaLeciono > 13)
+    if (LastaLeciono < 1 || LastaLeciono > KiomDaLecionoj)
         return;
     if (auto* butono = findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(LastaLeciono)))
         butono->click();
@@ -707,20 +711,18 @@ void lernilo::on_Konfigurado_clicked()
 void lernilo::on_label_Konfiguroj_clicked() { on_Konfigurado_clicked(); }
 void lernilo::on_Sendas_clicked()
 {
-    QWidget* pagho = ui->Paghujo->currentWidget();
-    const QList<QTabWidget*> abas = pagho ? pagho->findChildren<QTabWidget*>() : QList<QTabWidget*>();
-    if (abas.isEmpty())
+    QTabWidget* langetoj = lecionLangetoj(ui->Paghujo->currentWidget());
+    if (!langetoj)
         return;
-    Sendas(abas.first()->currentWidget(), abas.first()->currentIndex() + 1);
+    Sendas(langetoj->currentWidget(), langetoj->currentIndex() + 1);
 }
 
 void lernilo::on_printilo_clicked()
 {
-    QWidget* pagho = ui->Paghujo->currentWidget();
-    const QList<QTabWidget*> abas = pagho ? pagho->findChildren<QTabWidget*>() : QList<QTabWidget*>();
-    if (abas.isEmpty())
+    QTabWidget* langetoj = lecionLangetoj(ui->Paghujo->currentWidget());
+    if (!langetoj)
         return;
-    Sendas_Printilo(abas.first(), QStringLiteral("Leciono ") + abas.first()->objectName().mid(3, 2), ui->prog_printilo);
+    Sendas_Printilo(langetoj, QStringLiteral("Leciono ") + langetoj->objectName().mid(3, 2), ui->prog_printilo);
 }
 
 void lernilo::on_KioEstas_clicked()
@@ -836,13 +838,11 @@ void lernilo::lokigas_frazotrad(QString pagho, QString objekto)
     if (!paghejo)
         return;
     if (objekto.left(3) == QLatin1String("Lec")) {
-        auto* langetoj = paghejo->findChild<QTabWidget*>();
+        auto* langetoj = lecionLangetoj(paghejo);
         auto* etikedo = paghejo->findChild<QLabel*>(objekto);
         if (!langetoj || !etikedo)
             return;   // keys such as TFrame41.Label84 name no widget
-        QWidget* rulumo = etikedo->parentWidget();
-        while (rulumo && qstrcmp(rulumo->metaObject()->className(), "QScrollArea") != 0)
-            rulumo = rulumo->parentWidget();
+        QWidget* rulumo = praulo(etikedo, "QScrollArea");
         for (int i = 0; i < langetoj->count(); ++i) {
             if (langetoj->widget(i)->isAncestorOf(etikedo)) {
                 langetoj->setCurrentIndex(i);

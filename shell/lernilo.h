@@ -1,6 +1,8 @@
 #ifndef LERNILO_H
 #define LERNILO_H
 
+#include "funkcioj.h"
+
 #include <QList>
 #include <QMainWindow>
 #include <QDate>
@@ -30,7 +32,7 @@ public:
     // The player of every short sound: words, praise, greeting.
     QMediaPlayer* ludilo = nullptr;
 
-    // The frame of lesson `numero` (1 to 13), null until first opened.
+    // The frame of lesson `numero` (1 to KiomDaLecionoj), null until first opened.
     QFrame* leciono(int numero) const;
 
 public slots:
@@ -141,7 +143,7 @@ private:
     QStringList tradukitaj;
     FileDownloader* elshutilo = nullptr;
     QLabel* kadroEtikedo = nullptr;
-    QFrame* lecionoj[13] = {};
+    QFrame* lecionoj[KiomDaLecionoj] = {};
 };
 
 #endif

@@ -2,12 +2,18 @@
 #define TESTAJ_HELPOJ_H
 
 #include "funkcioj.h"
+#include "inidosiero.h"
+#include "klasregistro.h"
 
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDialog>
 #include <QDir>
+#include <QLineEdit>
 #include <QMessageBox>
+#include <QPrintDialog>
+#include <QPrinter>
+#include <QProcess>
 #include <QTimer>
 #include <QFile>
 #include <QSettings>
@@ -34,13 +40,61 @@ inline void preparasLerninton(const QTemporaryDir& ujo, const QString& dosiero =
                               const QString& lingvo = QString::fromUtf8("English — angla"))
 {
     preparasLokojn(ujo);
-    QSettings agordoj(savasLoko + QStringLiteral("lernilomelo.ini"), QSettings::IniFormat);
-    agordoj.setIniCodec("UTF-8");
+    inidosiero agordoj(agordoVojo());
     agordoj.setValue(QStringLiteral("Gxenerala/Lingvo"), lingvo);
     agordoj.setValue(QStringLiteral("Gxenerala/Dosiero"), dosiero);
     agordoj.sync();
     QFile listo(savasLoko + QStringLiteral("traduklisto.ini"));
     listo.open(QIODevice::WriteOnly);
+}
+
+// Writes a file into the writable folder.
+inline bool skribas(const QString& nomo, const QByteArray& enhavo)
+{
+    QFile f(savasLoko + nomo);
+    return f.open(QIODevice::WriteOnly | QIODevice::Truncate) && f.write(enhavo) == enhavo.size();
+}
+
+// Whether a widget is one of the course's exercises, or lies inside one.
+inline bool estasEkzerco(const QWidget* w)
+{
+    static const QStringList ekzercoj{"ekzerco1", "frazokonstruo", "plenigas_spacon", "vortoludo", "ekznumeraloj",
+                                      "kiomahoro", "audkompreno", "akuzativo", "prononco"};
+    return ekzercoj.contains(klasregistro::klasoDe(w));
+}
+inline bool enEkzerco(const QWidget* w)
+{
+    for (const QWidget* s = w->parentWidget(); s; s = s->parentWidget()) {
+        if (estasEkzerco(s))
+            return true;
+    }
+    return false;
+}
+
+// Answers the next print dialog: prints into the PDF file `pdf`, or cancels
+// where `pdf` is empty; keeps the document's name.
+inline void presasAlPdf(const QString& pdf, QString* dokumento = nullptr)
+{
+    QTimer::singleShot(50, [pdf, dokumento] {
+        auto* dialogo = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
+        if (!dialogo)
+            return presasAlPdf(pdf, dokumento);
+        if (dokumento)
+            *dokumento = dialogo->printer()->docName();
+        if (pdf.isEmpty())
+            return dialogo->reject();
+        dialogo->findChild<QLineEdit*>("filename")->setText(pdf);
+        dialogo->accept();
+    });
+}
+
+// What a program of poppler-utils says of a PDF file (pdftotext, pdfinfo).
+inline QString pdf(const QString& programo, const QString& dosiero)
+{
+    QProcess p;
+    p.start(programo, programo == QLatin1String("pdftotext") ? QStringList{dosiero, "-"} : QStringList{dosiero});
+    p.waitForFinished(20000);
+    return QString::fromUtf8(p.readAllStandardOutput());
 }
 
 // Clicks the named button of the next modal dialog as soon as it shows (the

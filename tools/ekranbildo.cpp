@@ -46,7 +46,7 @@ int main(int argc, char** argv)
     if (argc > 6)
         fenestro.resize(QByteArray(argv[5]).toInt(), QByteArray(argv[6]).toInt());
     fenestro.show();
-    if (leciono >= 1 && leciono <= 13) {
+    if (leciono >= 1 && leciono <= KiomDaLecionoj) {
         fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(leciono))->click();
         if (QTabWidget* langetoj = fenestro.leciono(leciono)->findChild<QTabWidget*>())
             langetoj->setCurrentIndex(pagho);

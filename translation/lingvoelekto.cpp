@@ -3,6 +3,7 @@
 
 #include "filedownloader.h"
 #include "funkcioj.h"
+#include "inidosiero.h"
 
 #include <QCloseEvent>
 #include <QDir>
@@ -70,8 +71,7 @@ void lingvoelekto::elektas(int sistema, int angla)
 void lingvoelekto::elektasTradukFonton()
 {
     const QString vojo = savasLoko + QStringLiteral("traduklisto.ini");
-    QSettings listo(vojo, QSettings::IniFormat);
-    listo.setIniCodec("UTF-8");
+    inidosiero listo(vojo);
     if (!QFile::exists(vojo) || listaVico(listo, 0).at(0) == QLatin1String("??")) {
         komencasElDosierujo();
         return;

@@ -25,12 +25,8 @@ QVector<TradukendaEtikedo> tradukendajEtikedoj(QTabWidget* langetoj)
                 continue;
             QString shlosilo = nomo;
             shlosilo.remove(prefikso);
-            if (instrukcio) {
-                // A lesson's second gap exercise has a "B" behind the lesson number.
-                const QObject* gepatro = etikedo->parent();
-                const bool dua = gepatro && gepatro->objectName().mid(5, 1) == QLatin1String("B");
-                shlosilo = dua ? QStringLiteral("Frame42.Label84") : QStringLiteral("TFrame41.Label84");
-            }
+            if (instrukcio)
+                shlosilo = instrukciaShlosilo(etikedo);
             if (!shlosilo.isEmpty())
                 listo.append({nombrilo, shlosilo, etikedo});
             ++nombrilo;

@@ -2,6 +2,7 @@
 #include "ui_traduko.h"
 
 #include "funkcioj.h"
+#include "inidosiero.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -92,8 +93,7 @@ bool traduko::havasShlosilojn(const QString& sekcio)
         return !Ordigas(sekcio).isEmpty();
     // An exercise's sentences are counted in a reference language.
     for (const QString& dosiero : senditajDosieroj()) {
-        QSettings s(tradukujo() + dosiero, QSettings::IniFormat);
-        s.setIniCodec("UTF-8");
+        inidosiero s(tradukujo() + dosiero);
         s.beginGroup(sekcio);
         if (!s.childKeys().isEmpty())
             return true;
@@ -104,8 +104,7 @@ bool traduko::havasShlosilojn(const QString& sekcio)
 void traduko::ListigasLingvojn()
 {
     for (const QString& dosiero : senditajDosieroj()) {
-        QSettings s(tradukujo() + dosiero, QSettings::IniFormat);
-        s.setIniCodec("UTF-8");
+        inidosiero s(tradukujo() + dosiero);
         s.beginGroup(QStringLiteral("Traduko"));
         const QStringList vico = {s.value(QStringLiteral("LingvoID"), QStringLiteral("??")).toString(),
                                   s.value(QStringLiteral("Lingvo"), QStringLiteral("?????????")).toString(), dosiero};
@@ -117,8 +116,7 @@ void traduko::ListigasLingvojn()
 
 void traduko::konfiguro()
 {
-    QSettings agordoj(agordoVojo(), QSettings::IniFormat);
-    agordoj.setIniCodec("UTF-8");
+    inidosiero agordoj(agordoVojo());
     agordoj.beginGroup(QStringLiteral("Tradukilo"));
     ui->dulitera_lingvokodo->setText(agordoj.value(QStringLiteral("LingvoID"), QString()).toString());
     ui->Edit1->setText(agordoj.value(QStringLiteral("Lingvo"), QString()).toString());
@@ -147,8 +145,7 @@ void traduko::konfiguro()
     on_tiparo_currentIndexChanged(ui->tiparo->currentText());
 
     // Written from right to left: the file says so once the translator has chosen it.
-    QSettings propra(legataDosiero(), QSettings::IniFormat);
-    propra.setIniCodec("UTF-8");
+    inidosiero propra(legataDosiero());
     ui->direktoRTL->setChecked(propra.value(QStringLiteral("Traduko/Direkto"), QStringLiteral("LTR")).toString()
                                == QLatin1String("RTL"));
 
@@ -224,8 +221,7 @@ QString traduko::legataDosiero() const
 
 QStringList traduko::referenco(const QString& dosiero, const QString& sekcio)
 {
-    QSettings s(tradukujo() + dosiero, QSettings::IniFormat);
-    s.setIniCodec("UTF-8");
+    inidosiero s(tradukujo() + dosiero);
     s.beginGroup(sekcio);
     QStringList tekstoj;
     for (const QString& shlosilo : qAsConst(slosiloj))
@@ -236,8 +232,7 @@ QStringList traduko::referenco(const QString& dosiero, const QString& sekcio)
 
 void traduko::SharghasTrad(QString sekcio)
 {
-    QSettings unua(tradukujo() + dosiero1, QSettings::IniFormat);
-    unua.setIniCodec("UTF-8");
+    inidosiero unua(tradukujo() + dosiero1);
     unua.beginGroup(sekcio);
     if (!ekzerca(sekcio)) {
         slosiloj = Ordigas(sekcio);
@@ -252,8 +247,7 @@ void traduko::SharghasTrad(QString sekcio)
 
     referenco1 = referenco(dosiero1, sekcio);
     referenco2 = referenco(dosiero2, sekcio);
-    QSettings propra(legataDosiero(), QSettings::IniFormat);
-    propra.setIniCodec("UTF-8");
+    inidosiero propra(legataDosiero());
     propra.beginGroup(sekcio);
     tradukoj.clear();
     for (const QString& shlosilo : qAsConst(slosiloj))
@@ -303,8 +297,7 @@ bool traduko::SavasTrad()
     if (sendita != propraDosiero() && QFile::copy(sendita, propraDosiero()))
         QFile::setPermissions(propraDosiero(), QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ReadGroup
                                                    | QFileDevice::ReadOther);
-    QSettings propra(propraDosiero(), QSettings::IniFormat);
-    propra.setIniCodec("UTF-8");
+    inidosiero propra(propraDosiero());
     propra.beginGroup(QStringLiteral("Traduko"));
     propra.setValue(QStringLiteral("LingvoID"), ui->dulitera_lingvokodo->text());
     propra.setValue(QStringLiteral("Lingvo"), ui->Edit1->text());
@@ -324,8 +317,7 @@ bool traduko::SavasTrad()
     const QString listoVojo = savasLoko + QStringLiteral("traduklisto.ini");
     const QString nomo = ui->Edit_dosiero->text().trimmed();
     if (QFile::exists(listoVojo) && !nomo.isEmpty()) {
-        QSettings listo(listoVojo, QSettings::IniFormat);
-        listo.setIniCodec("UTF-8");
+        inidosiero listo(listoVojo);
         int i = 0;
         for (; i < 200; ++i) {
             const QStringList vico = listaVico(listo, i);
@@ -512,8 +504,7 @@ void traduko::closeEvent(QCloseEvent* evento)
 {
     SavasTrad();   // after its message, the editor closes all the same
     QCoreApplication::processEvents();
-    QSettings agordoj(agordoVojo(), QSettings::IniFormat);
-    agordoj.setIniCodec("UTF-8");
+    inidosiero agordoj(agordoVojo());
     agordoj.beginGroup(QStringLiteral("Tradukilo"));
     agordoj.setValue(QStringLiteral("Lingvo"), ui->Edit1->text());
     agordoj.setValue(QStringLiteral("LingvoID"), ui->dulitera_lingvokodo->text());

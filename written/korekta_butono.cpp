@@ -1,5 +1,6 @@
 #include "korekta_butono.h"
 #include "korekta.h"
+#include "funkcioj.h"
 
 #include <QScrollArea>
 
@@ -15,10 +16,7 @@ korekta_butono::korekta_butono(QWidget* parent)
 
 void korekta_butono::klakita()
 {
-    QObject* o = parent();
-    while (o && qstrcmp(o->metaObject()->className(), "QScrollArea") != 0)
-        o = o->parent();
-    auto* rulumo = static_cast<QScrollArea*>(o);
+    auto* rulumo = static_cast<QScrollArea*>(praulo(this, "QScrollArea"));
     if (!rulumo)
         return;
     const QList<korekta*> respondoj = rulumo->findChildren<korekta*>();

@@ -15,10 +15,7 @@ sendas_butono::sendas_butono(QWidget* parent)
 
 void sendas_butono::klakita()
 {
-    QObject* o = parent();
-    while (o && qstrcmp(o->metaObject()->className(), "QTabWidget") != 0)
-        o = o->parent();
-    auto* langetoj = static_cast<QTabWidget*>(o);
+    auto* langetoj = static_cast<QTabWidget*>(praulo(this, "QTabWidget"));
     if (!langetoj || !langetoj->parent())
         return;
     const QString leciono = langetoj->parent()->objectName().mid(3, 2);

@@ -182,8 +182,8 @@ void tst_akuzativo::senTraduko()
     QFile anglaj(":/tradukoj/angla.trd");
     QVERIFY(anglaj.open(QIODevice::ReadOnly));
     QString enhavo = QString::fromUtf8(anglaj.readAll());
-    for (const QString& sekcio : {"[Ekzerco-0204]", "[Ekzerco-Klarigoj]"})
-        enhavo.replace(sekcio, "[Alia" + sekcio.mid(1));
+    for (const char* sekcio : {"Ekzerco-0204]", "Ekzerco-Klarigoj]"})
+        enhavo.replace(QLatin1Char('[') + QLatin1String(sekcio), "[Alia" + QLatin1String(sekcio));
     QDir(ujo->path()).mkpath("rimedoj/tradukoj");
     QFile senaj(ujo->path() + "/rimedoj/tradukoj/angla.trd");
     QVERIFY(senaj.open(QIODevice::WriteOnly));

@@ -23,7 +23,7 @@ public:
     void demandas(const QString& vico)
     {
         nuna = datumoj.indexOf(vico);
-        sono = sonoDe(vico, kodo.left(2));
+        sono = ekzercaSono(kodo.left(2), vico, true);
     }
 };
 

@@ -10,7 +10,7 @@ namespace {
 class Kesto : public QLayoutItem
 {
 public:
-    explicit Kesto(int largho, int alto = 20) : grando(largho, alto) {}
+    explicit Kesto(int largho) : grando(largho, 20) {}
     QSize sizeHint() const override { return grando; }
     QSize minimumSize() const override { return grando; }
     QSize maximumSize() const override { return grando; }
@@ -23,11 +23,6 @@ public:
     QRect loko;
 };
 
-QSpacerItem* spaco(int largho)
-{
-    return new QSpacerItem(largho, 0, QSizePolicy::Fixed, QSizePolicy::Minimum);
-}
-
 } // namespace
 
 class tst_flowlayout : public QObject
@@ -35,106 +30,57 @@ class tst_flowlayout : public QObject
     Q_OBJECT
 
 private slots:
-    void unuLinioCentrita();
-    void mallarghaRektoFaldas();
-    void marghenoj();
-    void spacoJeLinioFino();
-    void spacoNeKomencasLinion();
-    void duSpacojKiajUnu();
+    void aranghas_data();
+    void aranghas();
     void kashitaVortoNeOkupasLokon();
-    void tro_larghaVortoRestasSurUnuaLinio();
-    void malplenaAranghilo();
 };
 
-void tst_flowlayout::unuLinioCentrita()
+void tst_flowlayout::aranghas_data()
 {
-    FlowLayout a(6, 9);
-    a.setContentsMargins(0, 0, 0, 0);
-    auto* k1 = new Kesto(50), *k2 = new Kesto(40), *k3 = new Kesto(30);
-    a.addItem(k1);
-    a.addItem(k2);
-    a.addItem(k3);
-    a.setGeometry(QRect(0, 0, 200, 100));
+    // Words ("50") and spacers ("s20") on lines centred in the width, a
+    // horizontal spacing of 6 and a vertical one of 9; the places of the words.
+    QTest::addColumn<QString>("eroj");
+    QTest::addColumn<int>("largho");
+    QTest::addColumn<QString>("lokoj");
+    QTest::addColumn<int>("alto");
     // The line ends at 138 with its trailing spacing: shifted by (200-138)/2.
-    QCOMPARE(k1->loko, QRect(31, 0, 50, 20));
-    QCOMPARE(k2->loko, QRect(87, 0, 40, 20));
-    QCOMPARE(k3->loko, QRect(133, 0, 30, 20));
-    QCOMPARE(a.heightForWidth(200), 20);
+    QTest::newRow("one line") << "50 40 30" << 200 << "31,0 87,0 133,0" << 20;
+    QTest::newRow("folds") << "50 40 30" << 100 << "-1,0 55,0 32,29" << 49;
+    QTest::newRow("a spacer at a line's end does not widen it") << "50 s20 40" << 80 << "12,0 17,29" << 49;
+    QTest::newRow("a spacer does not begin a line") << "50 20 s30 40" << 90 << "4,0 60,0 22,29" << 49;
+    QTest::newRow("two spacers as one") << "30 s10 s10 30" << 200 << "56,0 108,0" << 20;
+    QTest::newRow("a word too wide stays on the first line") << "150" << 100 << "-28,0" << 20;
 }
 
-void tst_flowlayout::mallarghaRektoFaldas()
+void tst_flowlayout::aranghas()
 {
+    QFETCH(QString, eroj);
+    QFETCH(int, largho);
+    QFETCH(QString, lokoj);
+    QFETCH(int, alto);
     FlowLayout a(6, 9);
     a.setContentsMargins(0, 0, 0, 0);
-    auto* k1 = new Kesto(50), *k2 = new Kesto(40), *k3 = new Kesto(30);
-    a.addItem(k1);
-    a.addItem(k2);
-    a.addItem(k3);
-    a.setGeometry(QRect(0, 0, 100, 100));
-    // First line 96 wide plus its trailing spacing: a shift of -1.
-    QCOMPARE(k1->loko, QRect(-1, 0, 50, 20));
-    QCOMPARE(k2->loko, QRect(55, 0, 40, 20));
-    QCOMPARE(k3->loko, QRect(32, 29, 30, 20));
-    QCOMPARE(a.heightForWidth(100), 49);
-}
+    QList<Kesto*> vortoj;
+    for (const QString& e : eroj.split(' ')) {
+        if (e.startsWith('s')) {
+            a.addItem(new QSpacerItem(e.mid(1).toInt(), 0, QSizePolicy::Fixed, QSizePolicy::Minimum));
+        } else {
+            vortoj << new Kesto(e.toInt());
+            a.addItem(vortoj.last());
+        }
+    }
+    a.setGeometry(QRect(0, 0, largho, 100));
+    QStringList trovitaj;
+    for (Kesto* k : vortoj)
+        trovitaj << QStringLiteral("%1,%2").arg(k->loko.x()).arg(k->loko.y());
+    QCOMPARE(trovitaj.join(' '), lokoj);
+    QCOMPARE(a.heightForWidth(largho), alto);
 
-void tst_flowlayout::marghenoj()
-{
-    FlowLayout a(nullptr, 5, 6);
-    auto* k1 = new Kesto(50), *k2 = new Kesto(40);
-    a.addItem(k1);
-    a.addItem(k2);
-    a.setGeometry(QRect(0, 0, 120, 100));
-    QCOMPARE(k1->loko, QRect(9, 5, 50, 20));
-    QCOMPARE(k2->loko, QRect(65, 5, 40, 20));
-    QCOMPARE(a.heightForWidth(120), 30);
-}
-
-void tst_flowlayout::spacoJeLinioFino()
-{
-    FlowLayout a(6, 9);
-    a.setContentsMargins(0, 0, 0, 0);
-    auto* k1 = new Kesto(50), *k2 = new Kesto(40);
-    QSpacerItem* s = spaco(20);
-    a.addItem(k1);
-    a.addItem(s);
-    a.addItem(k2);
-    a.setGeometry(QRect(0, 0, 80, 100));
-    // The spacer stays on the first line but does not widen it.
-    QCOMPARE(k1->loko, QRect(12, 0, 50, 20));
-    QCOMPARE(s->geometry().left(), 68);
-    QCOMPARE(k2->loko, QRect(17, 29, 40, 20));
-}
-
-void tst_flowlayout::spacoNeKomencasLinion()
-{
-    FlowLayout a(6, 9);
-    a.setContentsMargins(0, 0, 0, 0);
-    auto* k1 = new Kesto(50), *k2 = new Kesto(20), *k3 = new Kesto(40);
-    a.addItem(k1);
-    a.addItem(k2);
-    a.addItem(spaco(30));
-    a.addItem(k3);
-    a.setGeometry(QRect(0, 0, 90, 100));
-    QCOMPARE(k1->loko, QRect(4, 0, 50, 20));
-    QCOMPARE(k2->loko, QRect(60, 0, 20, 20));
-    // The dropped spacer opened the line; the word starts it, then is centred.
-    QCOMPARE(k3->loko, QRect(22, 29, 40, 20));
-    QCOMPARE(a.heightForWidth(90), 49);
-}
-
-void tst_flowlayout::duSpacojKiajUnu()
-{
-    FlowLayout a(6, 9);
-    a.setContentsMargins(0, 0, 0, 0);
-    auto* k1 = new Kesto(30), *k2 = new Kesto(30);
-    a.addItem(k1);
-    a.addItem(spaco(10));
-    a.addItem(spaco(10));
-    a.addItem(k2);
-    a.setGeometry(QRect(0, 0, 200, 100));
-    QCOMPARE(k1->loko, QRect(56, 0, 30, 20));
-    QCOMPARE(k2->loko, QRect(108, 0, 30, 20));
+    // Margins of their own.
+    FlowLayout m(nullptr, 5, 6);
+    QCOMPARE(m.heightForWidth(100), 10);
+    QCOMPARE(m.itemAt(0), nullptr);
+    QCOMPARE(m.takeAt(0), nullptr);
 }
 
 void tst_flowlayout::kashitaVortoNeOkupasLokon()
@@ -148,39 +94,14 @@ void tst_flowlayout::kashitaVortoNeOkupasLokon()
     for (QWidget* w : {unua, kashita, lasta}) {
         w->setFixedSize(30, 20);
         w->show();   // shown as far as the layout can tell
+        a->addWidget(w);
     }
-    a->addWidget(unua);
-    a->addWidget(kashita);
-    a->addWidget(lasta);
     gepatro.setLayout(a);
     kashita->hide();
     a->setGeometry(QRect(0, 0, 200, 100));
     // Two words of 30: the line ends at 72, so it starts at 64.
     QCOMPARE(unua->geometry().topLeft(), QPoint(64, 0));
     QCOMPARE(lasta->geometry().topLeft(), QPoint(100, 0));
-}
-
-void tst_flowlayout::tro_larghaVortoRestasSurUnuaLinio()
-{
-    FlowLayout a(6, 9);
-    a.setContentsMargins(0, 0, 0, 0);
-    auto* k = new Kesto(150);
-    a.addItem(k);
-    a.setGeometry(QRect(0, 0, 100, 100));
-    QCOMPARE(k->loko, QRect(-28, 0, 150, 20));
-    QCOMPARE(a.heightForWidth(100), 20);
-}
-
-void tst_flowlayout::malplenaAranghilo()
-{
-    FlowLayout a(nullptr, 5, 6);
-    QCOMPARE(a.minimumSize(), QSize(9, 9));
-    QCOMPARE(a.sizeHint(), QSize(9, 9));
-    QCOMPARE(a.heightForWidth(100), 10);
-    QCOMPARE(a.itemAt(0), nullptr);
-    QCOMPARE(a.itemAt(-1), nullptr);
-    QCOMPARE(a.takeAt(0), nullptr);
-    QCOMPARE(a.expandingDirections(), Qt::Orientations());
 }
 
 QTEST_MAIN(tst_flowlayout)

@@ -24,19 +24,12 @@ void tst_klakbutono_nova::sonoVojo_data()
     QTest::addColumn<QString>("nomo");
     QTest::addColumn<QString>("atendo");
 
-    QTest::newRow("word") << "viro" << "Lec02_Button254" << "sonoj/lec02/viro.oga";
     QTest::newRow("8 letters is a word") << "knabinoj" << "Lec01_Button7" << "sonoj/lec01/knabinoj.oga";
     QTest::newRow("9 letters is a phrase") << "knabinojn" << "Lec01_Button7" << "sonoj/lec01/btn7.oga";
     QTest::newRow("length after conversion") << QString::fromUtf8("ŝanĝiĝi") << "Lec03_Button77" << "sonoj/lec03/btn77.oga";
-    QTest::newRow("short word with accents") << QString::fromUtf8("ĉu") << "Lec02_Button3" << "sonoj/lec02/cxu.oga";
-    QTest::newRow("sentence") << "Li estas sana." << "Lec03_Button77" << "sonoj/lec03/btn77.oga";
     QTest::newRow("exclamation mark") << "Saluton!" << "Lec01_Button12" << "sonoj/lec01/btn12.oga";
-    QTest::newRow("question mark stays in the name") << "Kial?" << "Lec04_Button5" << "sonoj/lec04/Kial?.oga";
     QTest::newRow("the word au") << QString::fromUtf8("aŭ") << "Lec05_Button2" << "sonoj/lec05/auh.oga";
-    QTest::newRow("capital Au is not renamed") << QString::fromUtf8("Aŭ") << "Lec05_Button2" << "sonoj/lec05/Aux.oga";
     QTest::newRow("right-to-left mark removed") << QString::fromUtf8("viro\u200E") << "Lec02_Button254" << "sonoj/lec02/viro.oga";
-    QTest::newRow("alphabet name, phrase") << "A, a, abelo" << "Lec01_XButton1" << "sonoj/lec01/btnn1.oga";
-    QTest::newRow("alphabet name 3X") << "C, c, celo" << "Lec01_Button3X" << "sonoj/lec01/btn3X.oga";
 }
 
 void tst_klakbutono_nova::sonoVojo()

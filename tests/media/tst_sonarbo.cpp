@@ -6,19 +6,13 @@
 // the decoded sound without a device, so the whole pipeline (file, Ogg,
 // Vorbis, sink) runs as it does for a learner.
 
-#include "audkompreno.h"
 #include "funkcioj.h"
-#include "klakbutono_nova.h"
-#include "lecionkadro.h"
-#include "mp3ludilo.h"
-#include "prononco.h"
 #include "sonlisto.h"
 #include "testaj_helpoj.h"
 
 #include <QDir>
 #include <QDirIterator>
 #include <QFile>
-#include <QLabel>
 #include <QMediaPlayer>
 #include <QSignalSpy>
 #include <QtTest>
@@ -30,8 +24,6 @@ class tst_sonarbo : public QObject
 private slots:
     void initTestCase();
     void chiuSonoEkzistas();
-    void chiuVortoDeLecionoEkzistas();
-    void chiuEkzercaKajLegataSonoEkzistas();
     void nomojMinusklaj();
     void salutojKvarope();
     void ludasGhisFino();
@@ -61,70 +53,6 @@ void tst_sonarbo::chiuSonoEkzistas()
     for (QDirIterator it(arbo + "sonoj", {"*.oga"}, QDir::Files, QDirIterator::Subdirectories); it.hasNext(); it.next())
         ++dosieroj;
     qInfo("%d sounds in the list, %d files in the tree", int(sonoj.size()), dosieroj);
-}
-
-void tst_sonarbo::chiuVortoDeLecionoEkzistas()
-{
-    // Checked against the lessons themselves, by the words' own rule.
-    int vortoj = 0;
-    QStringList mankas;
-    for (int n = 1; n <= 13; ++n) {
-        QWidget pagho;
-        lecionkadro kadro(n, &pagho);
-        for (klakbutono_nova* v : kadro.findChildren<klakbutono_nova*>()) {
-            if (v->text().isEmpty())
-                continue;
-            ++vortoj;
-            const QString vojo = klakbutono_nova::sonoVojo(v->text(), v->objectName()).toLower();
-            if (!QFile::exists(arbo + vojo))
-                mankas << v->objectName() + " " + vojo;
-        }
-    }
-    qInfo("%d clickable words, %d without a sound", vortoj, int(mankas.size()));
-    QVERIFY2(mankas.isEmpty(), qPrintable(mankas.join(", ")));
-}
-
-void tst_sonarbo::chiuEkzercaKajLegataSonoEkzistas()
-{
-    // By the exercises' and the players' own naming: every row of every
-    // dictation and pronunciation exercise, and every reading text that its
-    // lesson shows.
-    QStringList mankas;
-    int sonoj = 0;
-    for (int n = 1; n <= 13; ++n) {
-        QWidget pagho;
-        lecionkadro kadro(n, &pagho);
-        QStringList vojoj;
-        QList<QWidget*> ekzercoj;
-        for (QWidget* e : kadro.findChildren<QWidget*>()) {
-            if (qobject_cast<audkompreno*>(e) || qobject_cast<prononco*>(e))
-                ekzercoj << e;
-        }
-        for (QWidget* e : qAsConst(ekzercoj)) {
-            QStringList vicoj;
-            _Matriz(&vicoj, e->objectName().right(4), "D");
-            const bool diktado = qobject_cast<audkompreno*>(e);
-            for (const QString& v : qAsConst(vicoj)) {
-                const QString ciferoj = e->objectName().right(4).left(2);
-                // The dictation plays through mp3, which lower-cases the name.
-                vojoj << (diktado ? audkompreno::sonoDe(v, ciferoj).toLower() : prononco::sonoDe(v, ciferoj));
-            }
-        }
-        for (mp3ludilo* l : kadro.findChildren<mp3ludilo*>()) {
-            const QString ero = l->objectName().mid(6);
-            const QString teksto = ero.left(1).toUpper() + ero.mid(1) + "_" + l->objectName().left(5);
-            if (kadro.findChild<QLabel*>(teksto))
-                vojoj << mp3ludilo::dosiero(l->objectName());
-        }
-        for (const QString& v : qAsConst(vojoj)) {
-            ++sonoj;
-            if (!QFile::exists(arbo + v))
-                mankas << v;
-        }
-    }
-    qInfo("%d sounds of exercises and reading texts", sonoj);
-    QVERIFY(sonoj >= 633);   // the 633 rows of the seven lessons at least
-    QVERIFY2(mankas.isEmpty(), qPrintable(mankas.join(", ")));
 }
 
 void tst_sonarbo::nomojMinusklaj()

@@ -1,6 +1,6 @@
-// The exercise data: the groups and key counts each exercise expects, every
-// number naming a widget of the right class in its lesson, answers written
-// as the exercises compare them, and translations as long as their data.
+// The exercise data: columns of one length in each group, every number
+// naming a widget of the right class in its lesson, answers written as the
+// exercises compare them, and translations as long as their data.
 
 #include "funkcioj.h"
 #include "klakbutono_nova.h"
@@ -17,25 +17,6 @@
 #include <QtTest>
 
 namespace {
-
-// Exercise id, then "column count" pairs: the groups of every data file.
-const QVector<QPair<QString, QString>>& grupoj()
-{
-    static const QVector<QPair<QString, QString>> t = {
-        {"0101", "D56"}, {"0102", "D48"}, {"0103", "D45 R45"}, {"0107", "D15 R15"},
-        {"0201", "D40"}, {"0202", "D28 K28 R28"}, {"0203", "D42 R42"}, {"0204", "D28 R28"}, {"0207", "D16 R16"},
-        {"0301", "D24 R24"}, {"0302", "D49"}, {"0303", "D31 R31"}, {"0307", "D18 R18"},
-        {"0401", "D63 R63"}, {"0402", "D18"}, {"0403", "D48"}, {"0407", "D16 R16"},
-        {"0501", "D40 R40"}, {"0502", "D20 R20 T20"}, {"0507", "D14 R14"},
-        {"0601", "D25 R25"}, {"0602", "D19 R19 T19"}, {"0605", "D39 K39 R39"}, {"0607", "D15 R15"},
-        {"0701", "D63 R63"}, {"0702", "D61 R61 T61"}, {"0703", "D56"}, {"0709", "D77"},
-        {"0801", "D14 R14 T14"}, {"0802", "D27 R27 T27"}, {"0803", "D95 R95"}, {"0805", "D27 K27 R27"},
-        {"0902", "D29 R29 T29"}, {"0903", "D81 R81"},
-        {"1001", "D31 R31 T31"}, {"1002", "D55 R55 T55"}, {"1005", "D31 K31 R31"},
-        {"1101", "D14 R14"}, {"1103", "D22 R22"}, {"1202", "D65 K65 R65 T65"},
-    };
-    return t;
-}
 
 QString dosiero(const QString& ciferoj)
 {
@@ -69,8 +50,6 @@ class tst_ekzercaj_datumoj : public QObject
 private slots:
     void initTestCase();
     void dosieroj();
-    void grupojKajKiomoj_data();
-    void grupojKajKiomoj();
     void numerojTrovas_data();
     void numerojTrovas();
     void akuzativoKajPlenigo_data();
@@ -90,14 +69,10 @@ void tst_ekzercaj_datumoj::initTestCase()
 
 void tst_ekzercaj_datumoj::dosieroj()
 {
-    // Shipped files: CR LF line ends, UTF-8 without a byte-order mark, and no
-    // group that no exercise reads.
-    QStringList konataj;
-    for (const auto& g : grupoj()) {
-        for (const QString& k : g.second.split(' '))
-            konataj << g.first + k.left(1);
-    }
-    for (int n = 1; n <= 12; ++n) {
+    // Shipped files: CR LF line ends, UTF-8 without a byte-order mark, groups
+    // of the file's own lesson, and the columns of an exercise of one length,
+    // keys 0 to n-1, no value lost to a comma outside quotes.
+    for (int n = 1; n <= KiomDaLecionoj; ++n) {
         if (!ekzistas(n))
             continue;
         QFile f(dosiero(QStringLiteral("%1").arg(n, 2, 10, QLatin1Char('0'))));
@@ -105,37 +80,18 @@ void tst_ekzercaj_datumoj::dosieroj()
         const QByteArray enhavo = f.readAll();
         QVERIFY2(!enhavo.startsWith("\xEF\xBB\xBF"), qPrintable(f.fileName()));
         QVERIFY2(enhavo.count('\n') == enhavo.count("\r\n"), qPrintable(f.fileName() + " has bare line ends"));
-        QSettings s(f.fileName(), QSettings::IniFormat);
-        for (const QString& g : s.childGroups())
-            QVERIFY2(konataj.contains(g), qPrintable(f.fileName() + ": unknown group " + g));
-    }
-}
-
-void tst_ekzercaj_datumoj::grupojKajKiomoj_data()
-{
-    QTest::addColumn<QString>("id");
-    QTest::addColumn<QString>("kolumnoj");
-    for (const auto& g : grupoj()) {
-        if (ekzistas(g.first.left(2).toInt()))
-            QTest::newRow(qPrintable(g.first)) << g.first << g.second;
-    }
-}
-
-void tst_ekzercaj_datumoj::grupojKajKiomoj()
-{
-    QFETCH(QString, id);
-    QFETCH(QString, kolumnoj);
-    QSettings s(dosiero(id.left(2)), QSettings::IniFormat);
-    s.setIniCodec("UTF-8");
-    for (const QString& k : kolumnoj.split(' ')) {
-        s.beginGroup(id + k.left(1));
-        const QStringList sh = s.childKeys();
-        s.endGroup();
-        QCOMPARE(sh.size(), k.mid(1).toInt());
-        for (int i = 0; i < sh.size(); ++i)
-            QVERIFY2(sh.contains(QString::number(i)), qPrintable(QStringLiteral("%1%2: key %3 missing").arg(id, k.left(1)).arg(i)));
-        for (const QString& v : kolumno(id, k.left(1)))
-            QVERIFY2(!v.isEmpty() || k.startsWith('T'), qPrintable(id + k.left(1) + ": an empty value (a comma outside quotes?)"));
+        inidosiero s(f.fileName());
+        for (const QString& g : s.childGroups()) {
+            QCOMPARE(g.left(2).toInt(), n);
+            s.beginGroup(g);
+            const QStringList sh = s.childKeys();
+            s.endGroup();
+            QCOMPARE(sh.size(), kolumno(g.left(4), "D").size());
+            for (int i = 0; i < sh.size(); ++i)
+                QVERIFY2(sh.contains(QString::number(i)), qPrintable(QStringLiteral("%1: key %2 missing").arg(g).arg(i)));
+            for (const QString& v : kolumno(g.left(4), g.mid(4)))
+                QVERIFY2(!v.isEmpty() || g.endsWith('T'), qPrintable(g + ": an empty value"));
+        }
     }
 }
 
@@ -278,15 +234,26 @@ void tst_ekzercaj_datumoj::akuzativoKajPlenigo()
     }
 }
 
+// The exercises translated: those with a column T of their own, and those
+// the English file translates.
 void tst_ekzercaj_datumoj::tradukojSamLongaj_data()
 {
     QTest::addColumn<QString>("dosiero");
     QTest::addColumn<QString>("id");
-    for (const char* d : {"angla.trd", "esperanto.trd", "portugala.trd"}) {
-        for (const char* id : {"0204", "0502", "0602", "0605", "0702", "0801", "0802", "0902", "1001", "1002", "1202"}) {
-            if (ekzistas(QString::fromLatin1(id).left(2).toInt()))
-                QTest::newRow(qPrintable(QStringLiteral("%1 %2").arg(d, id))) << d << id;
+    QSet<QString> ids;
+    for (const QString& g : inidosiero(":/tradukoj/angla.trd").childGroups()) {
+        if (g.startsWith("Ekzerco-") && g.mid(8).toInt() > 0)
+            ids << g.mid(8);
+    }
+    for (int n = 1; n <= KiomDaLecionoj; ++n) {
+        for (const QString& g : inidosiero(dosiero(QStringLiteral("%1").arg(n, 2, 10, QLatin1Char('0')))).childGroups()) {
+            if (g.endsWith('T'))
+                ids << g.left(4);
         }
+    }
+    for (const char* d : {"angla.trd", "esperanto.trd", "portugala.trd"}) {
+        for (const QString& id : ids)
+            QTest::newRow(qPrintable(QStringLiteral("%1 %2").arg(d, id))) << d << id;
     }
 }
 

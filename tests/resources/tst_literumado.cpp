@@ -5,6 +5,7 @@
 // The few right words the dictionary lacks stand, each with its reason, in
 // resources/literumado/permesitaj.txt.
 
+#include "inidosiero.h"
 #include "lecionfonto.h"
 
 #include <QFile>
@@ -112,9 +113,8 @@ void tst_literumado::lecionoj()
 void tst_literumado::ekzercajDatumoj()
 {
     QStringList tekstoj;
-    for (int n = 1; n <= 12; ++n) {
-        QSettings d(QStringLiteral(":/ekzercoj/ekz%1.dat").arg(n, 2, 10, QLatin1Char('0')), QSettings::IniFormat);
-        d.setIniCodec("UTF-8");
+    for (int n = 1; n <= 13; ++n) {
+        inidosiero d(QStringLiteral(":/ekzercoj/ekz%1.dat").arg(n, 2, 10, QLatin1Char('0')));
         for (const QString& g : d.childGroups()) {
             const QStringList D = grupo(d, g);
             if (!g.endsWith('D'))
@@ -144,8 +144,7 @@ void tst_literumado::ekzercajDatumoj()
 
 void tst_literumado::esperantaTraduko()
 {
-    QSettings t(":/tradukoj/esperanto.trd", QSettings::IniFormat);
-    t.setIniCodec("UTF-8");
+    inidosiero t(":/tradukoj/esperanto.trd");
     QStringList tekstoj;
     for (const QString& g : t.childGroups()) {
         if (g != QLatin1String("Traduko"))   // codes and file names

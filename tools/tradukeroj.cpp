@@ -50,10 +50,17 @@ QString tradukeroj::iniLinio(const QString& shlosilo, const QString& valoro)
 QString tradukeroj::tdf()
 {
     QList<QStringList> grupoj;
-    grupoj << grupo("Gheneralaj", {"TFrame2.PP_Label1", "TFrame2.PP_Label41", "TFrame3.Label68",
-                                   "TFrame3.Label59", "TFrame1.Label7", "TFrame4.Label83",
-                                   "TFrame5.Label1", "TFrame5.Label6", "Ekz_FrazoKonstruo"});
-    for (int n = 13; n >= 1; --n) {
+    QStringList gheneralaj;
+    gheneralaj << QStringLiteral("[Gheneralaj]");
+    QStringList shlosiloj;
+    for (const auto& paro : gheneralajEtikedoj()) {
+        if (!shlosiloj.contains(paro.second))
+            shlosiloj << paro.second;
+    }
+    for (int i = 0; i < shlosiloj.size(); ++i)
+        gheneralaj << QStringLiteral("%1=%2").arg(i, 3, 10, QLatin1Char('0')).arg(shlosiloj.at(i));
+    grupoj << gheneralaj;
+    for (int n = KiomDaLecionoj; n >= 1; --n) {
         QWidget pagho;
         lecionkadro kadro(n, &pagho);
         QStringList linioj;
@@ -77,7 +84,7 @@ QString tradukeroj::tdf()
 QString tradukeroj::lecionajGrupoj()
 {
     QStringList partoj;
-    for (int n = 1; n <= 13; ++n) {
+    for (int n = 1; n <= KiomDaLecionoj; ++n) {
         QWidget pagho;
         lecionkadro kadro(n, &pagho);
         QStringList linioj;

@@ -7,7 +7,6 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <QSet>
-#include <QSettings>
 #include <QTextDocument>
 
 namespace {
@@ -29,13 +28,8 @@ QString ebenaTeksto(const QString& teksto)
 
 QStringList datumoj(const QString& id, const QString& kolumno)
 {
-    QSettings dosiero(QStringLiteral(":ekzercoj/ekz") + id.left(2) + QStringLiteral(".dat"), QSettings::IniFormat);
-    dosiero.setIniCodec("UTF-8");
-    dosiero.beginGroup(id + kolumno);
     QStringList valoroj;
-    const int n = dosiero.allKeys().size();
-    for (int i = 0; i < n; ++i)
-        valoroj << dosiero.value(QString::number(i), QString()).toString();
+    _Matriz(&valoroj, id, kolumno);
     return valoroj;
 }
 
@@ -61,11 +55,11 @@ void ekzercaSonoj(Kolektanto& k, QWidget* kadro, const QString& nomo, bool auh, 
     const QString id = nomo.right(4);
     const QString ciferoj = id.left(2);
     for (const QString& vico : datumoj(id, QStringLiteral("D"))) {
+        const QString vojo = ekzercaSono(ciferoj, vico, auh);
         if (vico.toInt() >= 1) {
             auto* vorto = kadro->findChild<klakbutono_nova*>(QStringLiteral("Lec") + ciferoj + QStringLiteral("_Button") + vico);
-            k.aldonas(frazoSono(ciferoj, vico), vortaVocxo, 130, vorto ? ebenaTeksto(vorto->text()) : QString());
+            k.aldonas(vojo, vortaVocxo, 130, vorto ? ebenaTeksto(vorto->text()) : QString());
         } else {
-            const QString vojo = vortoSono(ciferoj, vico, auh);
             k.aldonas(minuskle ? vojo.toLower() : vojo, vortaVocxo, 130, vico);
         }
     }
@@ -80,7 +74,7 @@ QVector<Sono> sonlisto::lecionaj()
     for (const QString& vorto : datumoj(QStringLiteral("0101"), QStringLiteral("D")))
         k.aldonas(vortoSono(QStringLiteral("01"), vorto, true).toLower(), vortaVocxo, 130, vorto);
 
-    for (int n = 1; n <= 13; ++n) {
+    for (int n = 1; n <= KiomDaLecionoj; ++n) {
         QWidget pagho;
         lecionkadro kadro(n, &pagho);
         for (klakbutono_nova* vorto : kadro.findChildren<klakbutono_nova*>()) {
@@ -98,7 +92,7 @@ QVector<Sono> sonlisto::lecionaj()
                 // song is made from its score by kantigilo.
                 const QString nomo = w->objectName();
                 const QString ero = nomo.mid(6);
-                const QString vojo = QStringLiteral("sonoj/") + nomo.left(5).toLower() + QLatin1Char('/') + ero + mp3_finajho;
+                const QString vojo = legoSono(nomo);
                 if (nomo == QLatin1String("Lec12_fragoj")) {
                     k.aldonas(vojo, "kanto", 0, QStringLiteral("resources/kanto/fragoj.txt"));
                     continue;
