@@ -24,6 +24,7 @@
 #include <QScroller>
 #include <QSettings>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QTabWidget>
 
 namespace {
@@ -47,6 +48,10 @@ lernilo::lernilo(QWidget* parent)
             QScroller::grabGesture(rulumo->viewport(), QScroller::LeftMouseButtonGesture);
     }
     QApplication::setWindowIcon(QIcon(QStringLiteral(":lernilo5.ico")));
+    // Course monitors are listed on this build's own server.
+    ui->label_126->setText(ui->label_126->text().replace(
+        QRegularExpression(QStringLiteral("href=\"[^\"]*\"")),
+        QStringLiteral("href=\"%1/monitoroj\"").arg(sServilo)));
 
     // Controls of this edition that the learner never sees.
     ui->prog_printilo->hide();

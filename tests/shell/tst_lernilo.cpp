@@ -22,6 +22,7 @@ private slots:
     void init();
     void cleanup();
     void hejmpaghoSenBreto();
+    void ikonoKajMonitoroj();
     void lecionoKonstruataUnufoje();
     void lecionoMontrataKunBretoj();
     void nekonataPaghoShanghasNenion();
@@ -89,6 +90,14 @@ void tst_lernilo::hejmpaghoSenBreto()
         QVERIFY2(fenestro->findChild<QWidget*>(nomo)->isHidden(), nomo);
     for (int n = 1; n <= 13; ++n)
         QCOMPARE(fenestro->leciono(n), nullptr);
+}
+
+void tst_lernilo::ikonoKajMonitoroj()
+{
+    QVERIFY(!QApplication::windowIcon().isNull());
+    QVERIFY(QApplication::windowIcon().availableSizes().value(0).width() >= 64);
+    const QString ligilo = fenestro->findChild<QLabel*>("label_126")->text();
+    QVERIFY2(ligilo.contains("href=\"" + sServilo + "/monitoroj\""), qPrintable(ligilo));
 }
 
 void tst_lernilo::lecionoKonstruataUnufoje()
