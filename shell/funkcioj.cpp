@@ -1,4 +1,5 @@
 #include "funkcioj.h"
+#include "klavoj.h"
 #include "lernilo.h"
 #include "klakbutono_nova.h"
 #include "korekta.h"
@@ -382,6 +383,7 @@ void Trad(QWidget* radiko, QString grupo)
             }
         }
     }
+    klavoj::konsiletoj(radiko, traduko);
 }
 
 void Adiau()

@@ -2,6 +2,7 @@
 #include "ui_lernilo.h"
 
 #include "filedownloader.h"
+#include "klavoj.h"
 #include "funkcioj.h"
 #include "lecionkadro.h"
 #include "lingvoelekto.h"
@@ -595,6 +596,13 @@ void lernilo::komencas_navigujon()
     const bool ltr = direkto == QLatin1String("LTR");
     ui->maldekstren->setIcon(ltr ? malantauen : antauen);
     ui->dekstren->setIcon(ltr ? antauen : malantauen);
+    // Alt with an arrow works the button that shows that arrow.
+    const QKeySequence altDekstren(Qt::ALT | Qt::Key_Right), altMaldekstren(Qt::ALT | Qt::Key_Left);
+    klavoj::donas(ui->dekstren, "Antauen", {QKeySequence(Qt::Key_PageDown), ltr ? altDekstren : altMaldekstren});
+    klavoj::donas(ui->maldekstren, "Malantauen", {QKeySequence(Qt::Key_PageUp), ltr ? altMaldekstren : altDekstren});
+    klavoj::donas(ui->Hejmo, "Hejmo", {QKeySequence(Qt::ALT | Qt::Key_Home)});
+    klavoj::konsiletoj(ui->navigujo, traduko);
+    klavoj::konsiletoj(ui->butonujo, traduko);
 
     if (QWidget* pagho = ui->Paghujo->currentWidget()) {
         const QList<QTabWidget*> abas = pagho->findChildren<QTabWidget*>();

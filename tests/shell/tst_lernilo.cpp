@@ -37,6 +37,7 @@ private slots:
     void paghojAranghatajNurKiamMontrataj();
     void aliaFenestroNeShovasRekomencon();
     void navigiloRondiras();
+    void navigiloPerKlavaro();
     void sagojLauDirekto_data();
     void sagojLauDirekto();
     void fermoElLecionoIrasHejmen();
@@ -290,6 +291,32 @@ void tst_lernilo::navigiloRondiras()
     QCOMPARE(bildo, QPixmap(":/ikonoj_androjdo/hejmo/leciono03.png").toImage());
 }
 
+void tst_lernilo::navigiloPerKlavaro()
+{
+    klakas("Leciono3");
+    QTabWidget* l = langetoj(3);
+    QTest::keyClick(fenestro, Qt::Key_PageDown);
+    QCOMPARE(l->currentIndex(), 1);
+    QTest::keyClick(fenestro, Qt::Key_Right, Qt::AltModifier);
+    QCOMPARE(l->currentIndex(), 2);
+    QCOMPARE(fenestro->findChild<QLabel*>("kiom_da_paghoj")->text(), QStringLiteral("3/10"));
+    QTest::keyClick(fenestro, Qt::Key_PageUp);
+    QTest::keyClick(fenestro, Qt::Key_Left, Qt::AltModifier);
+    QTest::keyClick(fenestro, Qt::Key_Left, Qt::AltModifier);
+    QCOMPARE(l->currentIndex(), 9);
+    QCOMPARE(fenestro->findChild<QAbstractButton*>("dekstren")->toolTip(),
+             "Next page (" + QKeySequence(Qt::Key_PageDown).toString(QKeySequence::NativeText) + ", "
+                 + QKeySequence(Qt::ALT | Qt::Key_Right).toString(QKeySequence::NativeText) + ")");
+
+    auto* paghujo = fenestro->findChild<QStackedWidget*>("Paghujo");
+    QTest::keyClick(fenestro, Qt::Key_Home, Qt::AltModifier);
+    QCOMPARE(paghujo->currentIndex(), 0);
+    // The page keys turn no hidden lesson's pages from the home page.
+    QTest::keyClick(fenestro, Qt::Key_PageDown);
+    QCOMPARE(paghujo->currentIndex(), 0);
+    QCOMPARE(l->currentIndex(), 9);
+}
+
 void tst_lernilo::sagojLauDirekto_data()
 {
     QTest::addColumn<QString>("direkto");
@@ -321,9 +348,12 @@ void tst_lernilo::sagojLauDirekto()
     QCOMPARE(bildoDe("dekstren") == antauen, dekstrenMontrasDekstren);
     QCOMPARE(bildoDe("maldekstren") == malantauen, dekstrenMontrasDekstren);
     QCOMPARE(bildoDe("dekstren") == malantauen, !dekstrenMontrasDekstren);
-    // Whatever the arrows show, "dekstren" goes on to the next page.
+    // Whatever the arrows show, "dekstren" goes on to the next page, and so
+    // does Alt with the arrow it shows.
     klakas("dekstren");
     QCOMPARE(langetoj(4)->currentIndex(), 1);
+    QTest::keyClick(fenestro, dekstrenMontrasDekstren ? Qt::Key_Right : Qt::Key_Left, Qt::AltModifier);
+    QCOMPARE(langetoj(4)->currentIndex(), 2);
     sTradukoDosiero.clear();
 }
 
