@@ -57,4 +57,4 @@ echo "$eligo" | grep -q '^sono /usr/lib/lernilo-melo/sonoj/' || malbone "no soun
 echo "$eligo" | grep -qx 'filmo /usr/lib/lernilo-melo/video/lec02/jen_video.ogv' || malbone "no film"
 agordoj="$hejmo/.local/share/Lernilo/LerniloMelo/lernilomelo.ini"
 grep -q '^Dosiero=' "$agordoj" || malbone "no settings in $agordoj"
-echo "1 passed, 0 failed"
+echo "The installed package works."
