@@ -3,10 +3,10 @@
 
 #include "flowlayout_nova.h"
 #include "funkcioj.h"
+#include "klavoj.h"
 
 #include <QBitmap>
 #include <QCoreApplication>
-#include <QElapsedTimer>
 #include <QScroller>
 
 akuzativo::akuzativo(QWidget* parent)
@@ -14,6 +14,8 @@ akuzativo::akuzativo(QWidget* parent)
     , ui(new Ui::akuzativo)
 {
     ui->setupUi(this);
+    klavoj::komenco(ui->BitBtn1);
+    klavoj::kontrolo(ui->BitBtn2);
     // The words flow and wrap like a line of text, so that a long sentence
     // never needs sideways scrolling.
     auto* fluo = new FlowLayout(ui->Vortoj, 9, 8);
@@ -185,24 +187,15 @@ void akuzativo::tekstoblinko()
 {
     ui->BitBtn2->setEnabled(false);
     ui->BitBtn3->setEnabled(false);
-    QElapsedTimer tempo;
-    tempo.start();
-    int k = 0;
-    for (;;) {
-        QCoreApplication::processEvents();
-        if (tempo.elapsed() > qint64(Ofteco) * k * iMsEnSekundo / 1000) {
-            ++k;
-            for (int i = 0; i < etikedoj.size(); ++i) {
-                if (!markoj[i].isEmpty() || !bezonasN(i))
-                    continue;
-                etikedoj.at(i)->setStyleSheet(k % 2 ? QStringLiteral("color: rgb(200, 0, 0);")
-                                                    : QStringLiteral("color: rgb(255, 255, 255);"));
-                etikedoj.at(i)->repaint();
-            }
+    blinkas([this](int k) {
+        for (int i = 0; i < etikedoj.size(); ++i) {
+            if (!markoj[i].isEmpty() || !bezonasN(i))
+                continue;
+            etikedoj.at(i)->setStyleSheet(k % 2 ? QStringLiteral("color: rgb(200, 0, 0);")
+                                                : QStringLiteral("color: rgb(255, 255, 255);"));
+            etikedoj.at(i)->repaint();
         }
-        if (tempo.elapsed() >= qint64(NumSec) * iMsEnSekundo)
-            return;
-    }
+    });
 }
 
 void akuzativo::on_BitBtn3_clicked()

@@ -20,19 +20,23 @@ void tekstoblinko(QWidget* w)
         unua = QStringLiteral("font-weight: bold; color: red") + resto;
         dua = QStringLiteral("font-weight: bold; color: white") + resto;
     }
+    blinkas([&](int k) {
+        w->setStyleSheet(k % 2 ? unua : dua);
+        w->update();
+    });
+    w->setStyleSheet(antaua);
+}
+
+void blinkas(const std::function<void(int pasho)>& pasho)
+{
     QElapsedTimer tempo;
     tempo.start();
     int k = 0;
     for (;;) {
         QCoreApplication::processEvents();
-        if (tempo.elapsed() > qint64(Ofteco) * k * iMsEnSekundo / 1000) {
-            ++k;
-            w->setStyleSheet(k % 2 ? unua : dua);
-            w->update();
-        }
-        if (tempo.elapsed() >= qint64(NumSec) * iMsEnSekundo) {
-            w->setStyleSheet(antaua);
+        if (tempo.elapsed() > qint64(Ofteco) * k * iMsEnSekundo / 1000)
+            pasho(++k);
+        if (tempo.elapsed() >= qint64(NumSec) * iMsEnSekundo)
             return;
-        }
     }
 }

@@ -20,6 +20,7 @@
 //   exercises/blinko.cpp          the blink of a right answer
 
 #include <QString>
+#include <functional>
 #include <QStringList>
 #include <QList>
 #include <QPair>
@@ -195,6 +196,9 @@ int limigo(int n);
 // Makes a widget blink for NumSec seconds to point at a right answer; the
 // window stays alive meanwhile.
 void tekstoblinko(QWidget* w);
+// The rhythm of every blink: calls `pasho` with 1, 2, 3... every Ofteco ms
+// for NumSec seconds, the window alive meanwhile; odd steps show the mark.
+void blinkas(const std::function<void(int pasho)>& pasho);
 
 // Hand-in: the text of a written page (questions, answers and the other
 // labels, in the learner's letter system), put on the clipboard with a

@@ -146,17 +146,22 @@ static QString plejLargha(QScrollArea* r)
 void tst_lecionoj::nenioElstaras_data()
 {
     QTest::addColumn<int>("numero");
-    for (int n = 1; n <= 7; ++n)
-        QTest::newRow(qPrintable(QStringLiteral("lesson %1").arg(n))) << n;
+    QTest::addColumn<QString>("dosiero");
+    for (const char* dosiero : {"angla.trd", "portugala.trd", "esperanto.trd"}) {
+        for (int n = 1; n <= KiomDaLecionoj; ++n)
+            QTest::newRow(qPrintable(QStringLiteral("lesson %1, %2").arg(n).arg(dosiero))) << n << QString(dosiero);
+    }
 }
 
-// At the window's first size every page reads from top to bottom. (The letter
-// table of lesson 1 scrolls sideways inside its page on purpose.)
+// At the window's first size every page reads from top to bottom, in the
+// course's three source languages. (The letter table of lesson 1 scrolls
+// sideways inside its page on purpose.)
 void tst_lecionoj::nenioElstaras()
 {
     QFETCH(int, numero);
+    QFETCH(QString, dosiero);
     QTemporaryDir hejmo;
-    preparasLerninton(hejmo);
+    preparasLerninton(hejmo, dosiero, inidosiero(":/tradukoj/" + dosiero).value("Traduko/Lingvo").toString());
     lernilo fenestro;
     fenestro.show();
     fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(numero))->click();
