@@ -48,8 +48,10 @@ int main(int argc, char** argv)
     fenestro.show();
     if (leciono >= 1 && leciono <= KiomDaLecionoj) {
         fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(leciono))->click();
-        if (QTabWidget* langetoj = fenestro.leciono(leciono)->findChild<QTabWidget*>())
+        if (QTabWidget* langetoj = fenestro.leciono(leciono)->findChild<QTabWidget*>()) {
             langetoj->setCurrentIndex(pagho);
+            fenestro.komencas_navigujon();   // the counter shows the page shown
+        }
     }
     for (int i = 0; i < 5; ++i)
         QApplication::processEvents();
