@@ -93,6 +93,10 @@ lernilo::lernilo(QWidget* parent)
 {
     randomize();
     ui->setupUi(this);
+    // The window keeps the size it was given. Without this its layout would
+    // raise the window's minimum to that of the widest page, and the window
+    // would widen by itself whenever a page's contents asked for more room.
+    layout()->setSizeConstraint(QLayout::SetNoConstraint);
 
     // The pages scroll by dragging.
     for (const char* nomo : {"scrollArea", "scrollArea_3", "scrollArea_2", "scrollArea_5"}) {
