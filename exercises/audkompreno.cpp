@@ -8,7 +8,6 @@
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QLabel>
-#include <QScroller>
 
 audkompreno::audkompreno(QWidget* parent)
     : QFrame(parent)
@@ -16,7 +15,7 @@ audkompreno::audkompreno(QWidget* parent)
 {
     ui->setupUi(this);
     ltr_marko = QString(QChar(0x200E));
-    QScroller::grabGesture(ui->scrollArea->viewport(), QScroller::LeftMouseButtonGesture);
+    ebligasTrenon(ui->scrollArea);
 
     // The panel of answers: four columns that fill one after the other.
     ui->vortujo->setStyleSheet(QStringLiteral("QLabel { font-weight: bold; color: #2E4272; }"));

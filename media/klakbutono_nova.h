@@ -16,6 +16,11 @@ public:
     // longer by the widget's number.
     static QString sonoVojo(const QString& teksto, const QString& objekto);
 
+    // The word whose press is still held, if any.
+    static klakbutono_nova* premata();
+    // Stops the word's sound if it is the one playing.
+    void silentas();
+
 signals:
     void clicked();
 
@@ -24,6 +29,7 @@ public slots:
 
 protected:
     void mousePressEvent(QMouseEvent* evento) override;
+    void mouseReleaseEvent(QMouseEvent* evento) override;
 };
 
 #endif

@@ -22,7 +22,6 @@
 #include <QMediaPlayer>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScroller>
 #include <QSettings>
 #include <QLabel>
 #include <QTabWidget>
@@ -95,7 +94,7 @@ lernilo::lernilo(QWidget* parent)
     // The pages scroll by dragging.
     for (const char* nomo : {"scrollArea", "scrollArea_3", "scrollArea_2", "scrollArea_5"}) {
         if (auto* rulumo = findChild<QScrollArea*>(QLatin1String(nomo)))
-            QScroller::grabGesture(rulumo->viewport(), QScroller::LeftMouseButtonGesture);
+            ebligasTrenon(rulumo);
     }
     QApplication::setWindowIcon(QIcon(QStringLiteral(":lernilo5.ico")));
 
