@@ -28,6 +28,15 @@
 
 namespace {
 
+// Setting a style sheet restyles every widget beneath, even when the sheet
+// is the same: an unchanged sheet is left alone, so that a change of language
+// costs nothing however many lessons are built.
+void metasStilon(QWidget* w, const QString& stilo)
+{
+    if (w->styleSheet() != stilo)
+        w->setStyleSheet(stilo);
+}
+
 QString lecionaPagho(int numero)
 {
     return QStringLiteral("Pagho%1").arg(numero, 2, 10, QLatin1Char('0'));
@@ -124,7 +133,7 @@ void lernilo::Stilo()
     ShanghasTiparStilon();
     QFile stilo(QStringLiteral(":stiloj/lernilo.qss"));
     stilo.open(QIODevice::ReadOnly);
-    ui->Paghujo->setStyleSheet(QString::fromUtf8(stilo.readAll()));
+    metasStilon(ui->Paghujo, QString::fromUtf8(stilo.readAll()));
     setUpdatesEnabled(true);
 }
 
@@ -147,6 +156,9 @@ void lernilo::komencakonfiguro()
     dosiero.endGroup();
     if (!sekuraDosierNomo(sTradukoDosiero))
         sTradukoDosiero.clear();   // a damaged setting: choose the language anew
+    // Fonts and style sheets before anything is polished, so that no widget
+    // is styled twice; Konfiguru finds them set.
+    Stilo();
 
     if (sLingvo.isEmpty() || sTradukoDosiero.isEmpty()) {
         // First run: the language comes before the window.
@@ -347,8 +359,8 @@ void lernilo::Konfiguru()
         ui->glitilo_traduko->setValue(iLiterGrando);
         ui->LiterGrandoEo->setValue(iLiterGrandoEo);
         ui->glitilo_eo->setValue(iLiterGrandoEo);
-        ui->tekstoEo->setStyleSheet(specimenStilo(sTiparoEo, iLiterGrandoEo));
-        ui->tekstoLingvo->setStyleSheet(specimenStilo(sTiparo, iLiterGrando));
+        metasStilon(ui->tekstoEo, specimenStilo(sTiparoEo, iLiterGrandoEo));
+        metasStilon(ui->tekstoLingvo, specimenStilo(sTiparo, iLiterGrando));
     }
     ui->tekstoLingvo->setText(sLingvo);
     QCoreApplication::processEvents();
@@ -367,7 +379,8 @@ void lernilo::ShanghasTiparStilon()
     const int lingvo = ghustigas_tiparon(iLiterGrando);
     QFont tiparo(sTiparo);
     tiparo.setPointSize(lingvo);
-    QApplication::setFont(tiparo);
+    if (QApplication::font() != tiparo)
+        QApplication::setFont(tiparo);
     const int lingvo125 = int(lingvo * 1.25);
     const int eo125 = int(eo * 1.25);
     const QString stilo =
@@ -380,7 +393,7 @@ void lernilo::ShanghasTiparStilon()
         + QStringLiteral("titolo[lingvo=\"eo\"], QPushButton[tipo=\"speciala\"], QLabel[tipo=\"afikso\"]  { font-family: \"")
         + sTiparoEo + QStringLiteral("\"; font-size: ") + QString::number(eo125)
         + QStringLiteral("pt; font-weight: bold; min-height: 1.2em;} ");
-    ui->centralWidget->setStyleSheet(stilo);
+    metasStilon(ui->centralWidget, stilo);
 }
 
 void lernilo::ShanghasTiparon()
