@@ -4,11 +4,6 @@
 
 #include <QApplication>
 #include <QMediaPlayer>
-#include <QPointer>
-
-namespace {
-QPointer<klakbutono_nova> premataVorto;
-}
 
 klakbutono_nova::klakbutono_nova(QWidget* parent, Qt::WindowFlags f)
     : QLabel(parent, f)
@@ -33,25 +28,11 @@ void klakbutono_nova::klakita()
 
 void klakbutono_nova::mousePressEvent(QMouseEvent*)
 {
-    premataVorto = this;
     emit clicked();
-}
-
-void klakbutono_nova::mouseReleaseEvent(QMouseEvent* evento)
-{
-    premataVorto = nullptr;
-    QLabel::mouseReleaseEvent(evento);
-}
-
-klakbutono_nova* klakbutono_nova::premata()
-{
-    return premataVorto;
 }
 
 void klakbutono_nova::silentas()
 {
-    if (premataVorto == this)
-        premataVorto = nullptr;
     auto* fenestro = qobject_cast<lernilo*>(QApplication::activeWindow());
     if (!fenestro)
         return;

@@ -16,8 +16,6 @@ public:
     // longer by the widget's number.
     static QString sonoVojo(const QString& teksto, const QString& objekto);
 
-    // The word whose press is still held, if any.
-    static klakbutono_nova* premata();
     // Stops the word's sound if it is the one playing.
     void silentas();
 
@@ -29,7 +27,6 @@ public slots:
 
 protected:
     void mousePressEvent(QMouseEvent* evento) override;
-    void mouseReleaseEvent(QMouseEvent* evento) override;
 };
 
 #endif

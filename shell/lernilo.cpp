@@ -567,9 +567,12 @@ void lernilo::ShanghasPaghon(QString pagho, QFrame* leciono)
             if (langetoj->objectName().startsWith(QLatin1String("Lec")) || langetoj->objectName() == QLatin1String("Fina_Ekzameno"))
                 SxargxasEk(langetoj, false);
         }
-        // Pages are laid out when first shown, not all at once now.
-        for (QScrollArea* rulumo : pagh->findChildren<QScrollArea*>())
-            rulumo->setWidgetResizable(false);
+        // Pages are laid out when first shown, not all at once now. (Setting
+        // the state again would lay out the contents all the same.)
+        for (QScrollArea* rulumo : pagh->findChildren<QScrollArea*>()) {
+            if (rulumo->widgetResizable())
+                rulumo->setWidgetResizable(false);
+        }
         QCoreApplication::processEvents();
     }
 

@@ -1,13 +1,16 @@
 // A clickable word names its sound from its own text and object name, and
 // plays it on a press of any mouse button, at once even on a page that
-// scrolls by dragging; a drag that starts on it silences it.
+// scrolls by dragging; a drag that starts on it silences it, and one that
+// starts on a button leaves the button up and unclicked.
 
 #include "klakbutono_nova.h"
 #include "lernilo.h"
 #include "testaj_helpoj.h"
 
 #include <QMediaPlayer>
+#include <QPushButton>
 #include <QScrollArea>
+#include <QScroller>
 #include <QtTest>
 
 class tst_klakbutono_nova : public QObject
@@ -41,6 +44,17 @@ void tst_klakbutono_nova::sonoVojo()
     QFETCH(QString, nomo);
     QFETCH(QString, atendo);
     QCOMPARE(klakbutono_nova::sonoVojo(teksto, nomo), atendo);
+}
+
+// Moves the held mouse up from `ek` by 70 pixels, far enough to drag the page.
+static void treno(QWidget* w, QPoint ek, ulong& tempo)
+{
+    for (int y = ek.y() - 1; y >= ek.y() - 70; y -= 3) {
+        QMouseEvent movo(QEvent::MouseMove, QPoint(ek.x(), y), w->mapToGlobal(QPoint(ek.x(), y)), Qt::NoButton,
+                         Qt::LeftButton, Qt::NoModifier);
+        movo.setTimestamp(tempo += 10);
+        QApplication::sendEvent(w, &movo);
+    }
 }
 
 // A word on a page that scrolls by dragging, as on every lesson page.
@@ -109,14 +123,22 @@ void tst_klakbutono_nova::trenoSilentigas()
     QTest::mousePress(vorto, Qt::LeftButton, Qt::NoModifier, QPoint(20, 10));
     QCOMPARE(fenestro.ludilo->state(), QMediaPlayer::PlayingState);
     ulong tempo = QDateTime::currentMSecsSinceEpoch();
-    for (int y = 9; y >= -60; y -= 3) {
-        QMouseEvent movo(QEvent::MouseMove, QPoint(20, y), vorto->mapToGlobal(QPoint(20, y)), Qt::NoButton,
-                         Qt::LeftButton, Qt::NoModifier);
-        movo.setTimestamp(tempo += 10);
-        QApplication::sendEvent(vorto, &movo);
-    }
+    treno(vorto, QPoint(20, 10), tempo);
     QCOMPARE(fenestro.ludilo->state(), QMediaPlayer::StoppedState);
     QTest::mouseRelease(vorto, Qt::LeftButton, Qt::NoModifier, QPoint(20, -60));
+
+    // A button dragged with the page comes up again, and is not clicked.
+    QScroller::scroller(rulumo->viewport())->stop();   // a press would only stop the page's glide
+    auto* butono = new QPushButton("Ek", vorto->parentWidget());
+    butono->setGeometry(10, 40, 80, 60);
+    butono->show();
+    QSignalSpy klakoj(butono, &QPushButton::clicked);
+    QTest::mousePress(butono, Qt::LeftButton, Qt::NoModifier, QPoint(20, 55));
+    QVERIFY(butono->isDown());
+    treno(butono, QPoint(20, 55), tempo);
+    QTest::mouseRelease(butono, Qt::LeftButton, Qt::NoModifier, QPoint(20, -15));
+    QVERIFY(!butono->isDown());
+    QCOMPARE(klakoj.count(), 0);
 }
 
 QTEST_MAIN(tst_klakbutono_nova)
