@@ -11,7 +11,8 @@
 //   - a change of language with none, two and all lessons built;
 //   - in the translator's editor, a click to the course showing the framed
 //     label, in a lesson already built and in one not built yet.
-// Run: mezurilo [runs], or mezurilo tradukilo for the editor's figures alone
+// Run: mezurilo [runs]; mezurilo tradukilo for the editor's figures alone,
+// mezurilo lingvo [runs] for the change of language alone.
 
 #include "funkcioj.h"
 #include "klakbutono_nova.h"
@@ -207,6 +208,43 @@ void tradukilo(QTextStream& el, int kiom)
     el.flush();
 }
 
+// A change of language from the settings page until the home page reads in
+// the new language, with none, two and all lessons built.
+void lingvoShanghoj(QTextStream& el, int kiom)
+{
+    auto shanghas = [](lernilo& f) {
+        f.findChild<QAbstractButton*>(QStringLiteral("Konfigurado"))->click();
+        auto* lingvoj = f.findChild<QComboBox*>(QStringLiteral("Lingvo"));
+        const QString cela = sTradukoDosiero == QLatin1String("esperanto.trd") ? QStringLiteral("English — angla")
+                                                                                : QStringLiteral("Esperanto");
+        lingvoj->setCurrentIndex(lingvoj->findText(cela));
+        QMetaObject::invokeMethod(&f, "on_Lingvo_activated", Q_ARG(int, lingvoj->currentIndex()));
+        auto* kio = f.findChild<QLabel*>(QStringLiteral("label_Kio"));
+        const QString antaua = kio->text();
+        QElapsedTimer t;
+        t.start();
+        f.findChild<QAbstractButton*>(QStringLiteral("shanghasKonfigurojn"))->click();
+        while (kio->text() == antaua && t.elapsed() < 10000)
+            QApplication::processEvents();
+        f.repaint();
+        return t.nsecsElapsed() / 1e6;
+    };
+    el << "\nChange of language, apply to the home page relabelled (target 15 ms):\n";
+    for (int kiomDaLecionoj : {0, 2, 13}) {
+        lernilo f;
+        atendasMontron(&f);
+        for (int n = 1; n <= kiomDaLecionoj; ++n)
+            f.findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(n))->click();
+        f.findChild<QAbstractButton*>(QStringLiteral("Hejmo"))->click();
+        QApplication::processEvents();
+        QVector<double> shanghoj;
+        for (int i = 0; i < kiom; ++i)
+            shanghoj << shanghas(f);
+        el << QStringLiteral("  %1 lessons built: %2 ms\n").arg(kiomDaLecionoj, 2).arg(mediano(shanghoj), 0, 'f', 1);
+        el.flush();
+    }
+}
+
 } // namespace
 
 int main(int argc, char** argv)
@@ -221,6 +259,12 @@ int main(int argc, char** argv)
     QTextStream el(stdout);
     if (args.size() > 1 && args.at(1) == QLatin1String("tradukilo")) {
         tradukilo(el, 7);
+        return 0;
+    }
+    if (args.size() > 1 && args.at(1) == QLatin1String("lingvo")) {
+        QTemporaryDir ujo;
+        preparas(ujo);
+        lingvoShanghoj(el, args.size() > 2 ? qMax(1, args.at(2).toInt()) : 7);
         return 0;
     }
     const int kiom = args.size() > 1 ? qMax(1, args.at(1).toInt()) : 7;
@@ -495,39 +539,7 @@ int main(int argc, char** argv)
     }
     el.flush();
 
-    // A change of language from the settings page until the home page reads
-    // in the new language, with none, two and all lessons built.
-    auto shanghas = [](lernilo& f) {
-        f.findChild<QAbstractButton*>(QStringLiteral("Konfigurado"))->click();
-        auto* lingvoj = f.findChild<QComboBox*>(QStringLiteral("Lingvo"));
-        const QString cela = sTradukoDosiero == QLatin1String("esperanto.trd") ? QStringLiteral("English — angla")
-                                                                                : QStringLiteral("Esperanto");
-        lingvoj->setCurrentIndex(lingvoj->findText(cela));
-        QMetaObject::invokeMethod(&f, "on_Lingvo_activated", Q_ARG(int, lingvoj->currentIndex()));
-        auto* kio = f.findChild<QLabel*>(QStringLiteral("label_Kio"));
-        const QString antaua = kio->text();
-        QElapsedTimer t;
-        t.start();
-        f.findChild<QAbstractButton*>(QStringLiteral("shanghasKonfigurojn"))->click();
-        while (kio->text() == antaua && t.elapsed() < 10000)
-            QApplication::processEvents();
-        f.repaint();
-        return t.nsecsElapsed() / 1e6;
-    };
-    el << "\nChange of language, apply to the home page relabelled (target 15 ms):\n";
-    for (int kiomDaLecionoj : {0, 2, 13}) {
-        lernilo f;
-        atendasMontron(&f);
-        for (int n = 1; n <= kiomDaLecionoj; ++n)
-            f.findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(n))->click();
-        f.findChild<QAbstractButton*>(QStringLiteral("Hejmo"))->click();
-        QApplication::processEvents();
-        QVector<double> shanghoj;
-        for (int i = 0; i < kiom; ++i)
-            shanghoj << shanghas(f);
-        el << QStringLiteral("  %1 lessons built: %2 ms\n").arg(kiomDaLecionoj, 2).arg(mediano(shanghoj), 0, 'f', 1);
-        el.flush();
-    }
+    lingvoShanghoj(el, kiom);
     {
         QVector<double> tradoj;
         fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono1"))->click();

@@ -37,6 +37,33 @@ void metasStilon(QWidget* w, const QString& stilo)
         w->setStyleSheet(stilo);
 }
 
+// The font of the learner's language, for the whole program.
+QFont lingvaTiparo()
+{
+    QFont tiparo(sTiparo);
+    tiparo.setPointSize(ghustigas_tiparon(iLiterGrando));
+    return tiparo;
+}
+
+// The part of the style that follows the settings: sizes and the font of
+// Esperanto.
+QString tiparaStilo()
+{
+    const int eo = ghustigas_tiparon(iLiterGrandoEo);
+    const int lingvo = ghustigas_tiparon(iLiterGrando);
+    const int lingvo125 = int(lingvo * 1.25);
+    const int eo125 = int(eo * 1.25);
+    return QStringLiteral("myLabel#label_Kie, #label_Kreditoj, #label_Kio, #label_Konfiguroj, #label_Kiel, #label_Eliri { font-size: ")
+           + QString::number(lingvo - 1) + QStringLiteral("pt; font-weight: bold; } ")
+           + QStringLiteral("titolo { font-size: ") + QString::number(lingvo125)
+           + QStringLiteral("pt; font-weight: bold; min-height: 1.2em;} ")
+           + QStringLiteral("QLabel[lingvo=\"eo\"], klakbutono_nova, neklakebla_nova, korekta, cx_edit, cx_plainedit, cx_edit_minuskla { font-family: \"")
+           + sTiparoEo + QStringLiteral("\";  font-size: ") + QString::number(eo) + QStringLiteral("pt;} ")
+           + QStringLiteral("titolo[lingvo=\"eo\"], QPushButton[tipo=\"speciala\"], QLabel[tipo=\"afikso\"]  { font-family: \"")
+           + sTiparoEo + QStringLiteral("\"; font-size: ") + QString::number(eo125)
+           + QStringLiteral("pt; font-weight: bold; min-height: 1.2em;} ");
+}
+
 QString lecionaPagho(int numero)
 {
     return QStringLiteral("Pagho%1").arg(numero, 2, 10, QLatin1Char('0'));
@@ -129,11 +156,17 @@ lernilo::lernilo(QWidget* parent)
 
 void lernilo::Stilo()
 {
+    QFile dosiero(QStringLiteral(":stiloj/lernilo.qss"));
+    dosiero.open(QIODevice::ReadOnly);
+    const QString fiksa = QString::fromUtf8(dosiero.readAll());
+    // Turning updates off and on walks every widget of every built lesson:
+    // not needed when nothing changes.
+    if (QApplication::font() == lingvaTiparo() && ui->centralWidget->styleSheet() == tiparaStilo()
+        && ui->Paghujo->styleSheet() == fiksa)
+        return;
     setUpdatesEnabled(false);
     ShanghasTiparStilon();
-    QFile stilo(QStringLiteral(":stiloj/lernilo.qss"));
-    stilo.open(QIODevice::ReadOnly);
-    metasStilon(ui->Paghujo, QString::fromUtf8(stilo.readAll()));
+    metasStilon(ui->Paghujo, fiksa);
     setUpdatesEnabled(true);
 }
 
@@ -375,25 +408,10 @@ QString lernilo::specimenStilo(const QString& tiparo, int grando)
 
 void lernilo::ShanghasTiparStilon()
 {
-    const int eo = ghustigas_tiparon(iLiterGrandoEo);
-    const int lingvo = ghustigas_tiparon(iLiterGrando);
-    QFont tiparo(sTiparo);
-    tiparo.setPointSize(lingvo);
+    const QFont tiparo = lingvaTiparo();
     if (QApplication::font() != tiparo)
         QApplication::setFont(tiparo);
-    const int lingvo125 = int(lingvo * 1.25);
-    const int eo125 = int(eo * 1.25);
-    const QString stilo =
-        QStringLiteral("myLabel#label_Kie, #label_Kreditoj, #label_Kio, #label_Konfiguroj, #label_Kiel, #label_Eliri { font-size: ")
-        + QString::number(lingvo - 1) + QStringLiteral("pt; font-weight: bold; } ")
-        + QStringLiteral("titolo { font-size: ") + QString::number(lingvo125)
-        + QStringLiteral("pt; font-weight: bold; min-height: 1.2em;} ")
-        + QStringLiteral("QLabel[lingvo=\"eo\"], klakbutono_nova, neklakebla_nova, korekta, cx_edit, cx_plainedit, cx_edit_minuskla { font-family: \"")
-        + sTiparoEo + QStringLiteral("\";  font-size: ") + QString::number(eo) + QStringLiteral("pt;} ")
-        + QStringLiteral("titolo[lingvo=\"eo\"], QPushButton[tipo=\"speciala\"], QLabel[tipo=\"afikso\"]  { font-family: \"")
-        + sTiparoEo + QStringLiteral("\"; font-size: ") + QString::number(eo125)
-        + QStringLiteral("pt; font-weight: bold; min-height: 1.2em;} ");
-    metasStilon(ui->centralWidget, stilo);
+    metasStilon(ui->centralWidget, tiparaStilo());
 }
 
 void lernilo::ShanghasTiparon()
