@@ -3,6 +3,7 @@
 
 #include "flowlayout_nova.h"
 #include "funkcioj.h"
+#include "klavoj.h"
 
 #include <QBitmap>
 #include <QCoreApplication>
@@ -13,6 +14,8 @@ akuzativo::akuzativo(QWidget* parent)
     , ui(new Ui::akuzativo)
 {
     ui->setupUi(this);
+    klavoj::komenco(ui->BitBtn1);
+    klavoj::kontrolo(ui->BitBtn2);
     // The words flow and wrap like a line of text, so that a long sentence
     // never needs sideways scrolling.
     auto* fluo = new FlowLayout(ui->Vortoj, 9, 8);

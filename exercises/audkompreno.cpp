@@ -2,6 +2,7 @@
 #include "ui_audkompreno.h"
 
 #include "funkcioj.h"
+#include "klavoj.h"
 #include "klakbutono_nova.h"
 
 #include <QBoxLayout>
@@ -15,6 +16,8 @@ audkompreno::audkompreno(QWidget* parent)
     , ui(new Ui::audkompreno)
 {
     ui->setupUi(this);
+    klavoj::komenco(ui->BitBtn8);
+    klavoj::reaudo(ui->BitBtn9);
     ltr_marko = QString(QChar(0x200E));
     QScroller::grabGesture(ui->scrollArea->viewport(), QScroller::LeftMouseButtonGesture);
 

@@ -2,6 +2,7 @@
 #include "ui_ekzerco1.h"
 
 #include "funkcioj.h"
+#include "klavoj.h"
 
 #include <QPushButton>
 
@@ -10,6 +11,8 @@ ekzerco1::ekzerco1(QWidget* parent)
     , ui(new Ui::ekzerco1)
 {
     ui->setupUi(this);
+    klavoj::komenco(ui->BitBtn1);
+    klavoj::reaudo(ui->BitBtn3);
 }
 
 ekzerco1::~ekzerco1()
@@ -129,7 +132,13 @@ void ekzerco1::novavorto()
     sonvojo = vortoSono(QStringLiteral("01"), vortoj[elektitaj[nuna]], true);
     mp3(sonvojo);
     ui->BitBtn3->setEnabled(true);
-    ui->butonujo->setFocus();
+    // The learner answers with Tab and Space from the first word on.
+    for (QPushButton* b : qAsConst(butonoj)) {
+        if (b->isEnabled()) {
+            b->setFocus();
+            break;
+        }
+    }
     okupita = false;
 }
 

@@ -3,6 +3,7 @@
 
 #include "flowlayout_nova.h"
 #include "funkcioj.h"
+#include "klavoj.h"
 #include "klakbutono_nova.h"
 #include "korekta.h"
 #include "neklakebla_nova.h"
@@ -33,6 +34,9 @@ frazokonstruo::frazokonstruo(QWidget* parent)
     , ui(new Ui::frazokonstruo)
 {
     ui->setupUi(this);
+    klavoj::komenco(ui->BitBtn1);
+    klavoj::kontrolo(ui->BitBtn2);
+    klavoj::sekva(ui->Antauen);
     setUpdatesEnabled(false);
 
     auto* vicaranghilo = new FlowLayout(6, 9);

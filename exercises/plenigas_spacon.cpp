@@ -3,6 +3,7 @@
 
 #include "ekzercfolio.h"
 #include "funkcioj.h"
+#include "klavoj.h"
 
 #include <QFontMetrics>
 #include <QGuiApplication>
@@ -14,6 +15,8 @@ plenigas_spacon::plenigas_spacon(QWidget* parent)
     , ui(new Ui::plenigas_spacon)
 {
     ui->setupUi(this);
+    klavoj::komenco(ui->BitBtn4);
+    klavoj::sekva(ui->antauen);
     etikedoj = {ui->Vorto1, ui->KorektaVorto1, ui->Vorto2, ui->KorektaVorto2, ui->Vorto3, ui->KorektaVorto3,
                 ui->Vorto4, ui->KorektaVorto4, ui->Vorto5, ui->KorektaVorto5, ui->Vorto6};
     kampoj = {ui->Edit1, ui->Edit2, ui->Edit3, ui->Edit4, ui->Edit5};

@@ -2,6 +2,7 @@
 #include "ui_prononco.h"
 
 #include "funkcioj.h"
+#include "klavoj.h"
 #include "klakbutono_nova.h"
 
 #include <QAudioEncoderSettings>
@@ -51,6 +52,9 @@ prononco::prononco(QWidget* parent)
     , ui(new Ui::prononco)
 {
     ui->setupUi(this);
+    klavoj::komenco(ui->PP_Startu);
+    klavoj::reaudo(ui->PP_Aud_re);
+    klavoj::sekva(ui->PP_Antauen);
     // The bar keeps its place while hidden, so the buttons below stay put.
     QSizePolicy politiko = ui->PP_Prog->sizePolicy();
     politiko.setRetainSizeWhenHidden(true);

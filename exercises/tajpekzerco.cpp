@@ -2,6 +2,7 @@
 
 #include "ekzercfolio.h"
 #include "funkcioj.h"
+#include "klavoj.h"
 
 #include <QLabel>
 #include <QLineEdit>
@@ -23,6 +24,7 @@ void tajpekzerco::preparas()
     kampo = findChild<QLineEdit*>(QStringLiteral("Edit1"));
     vorto = findChild<QLabel*>(QStringLiteral("Vorto0"));
     korekta = findChild<QLabel*>(QStringLiteral("Korekta"));
+    klavoj::komenco(komenco);
     for (int i = 1; i <= 4; ++i)
         placar << findChild<QSpinBox*>(QStringLiteral("Placar%1").arg(i));
     if (sSistemo != QLatin1String("windows") && sSistemo != QLatin1String("osx"))

@@ -3,6 +3,7 @@
 
 #include "ekzercfolio.h"
 #include "funkcioj.h"
+#include "klavoj.h"
 #include "klakbutono_nova.h"
 #include "neklakebla_nova.h"
 
@@ -47,6 +48,10 @@ vortoludo::vortoludo(QWidget* parent)
     , ui(new Ui::vortoludo)
 {
     ui->setupUi(this);
+    klavoj::komenco(ui->BitBtn18);
+    const QList<QAbstractButton*> respondoj = {ui->frazo0, ui->frazo1, ui->frazo2, ui->frazo3, ui->frazo4};
+    for (int i = 0; i < respondoj.size(); ++i)
+        klavoj::elekto(respondoj.at(i), i + 1);
     ui->Grupo->hide();
     if (sSistemo != QLatin1String("windows") && sSistemo != QLatin1String("osx"))
         ui->printilo_ps->hide();

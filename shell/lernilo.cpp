@@ -2,6 +2,7 @@
 #include "ui_lernilo.h"
 
 #include "filedownloader.h"
+#include "klavoj.h"
 #include "funkcioj.h"
 #include "lecionkadro.h"
 #include "lingvoelekto.h"
@@ -25,6 +26,7 @@
 #include <QScroller>
 #include <QSettings>
 #include <QLabel>
+#include <QRegularExpression>
 #include <QTabWidget>
 
 namespace {
@@ -98,6 +100,10 @@ lernilo::lernilo(QWidget* parent)
             QScroller::grabGesture(rulumo->viewport(), QScroller::LeftMouseButtonGesture);
     }
     QApplication::setWindowIcon(QIcon(QStringLiteral(":lernilo5.ico")));
+    // Course monitors are listed on this build's own server.
+    ui->label_126->setText(ui->label_126->text().replace(
+        QRegularExpression(QStringLiteral("href=\"[^\"]*\"")),
+        QStringLiteral("href=\"%1/monitoroj\"").arg(sServilo)));
 
     // Controls of this edition that the learner never sees.
     ui->prog_printilo->hide();
@@ -602,6 +608,13 @@ void lernilo::komencas_navigujon()
     const bool ltr = direkto == QLatin1String("LTR");
     ui->maldekstren->setIcon(ltr ? malantauen : antauen);
     ui->dekstren->setIcon(ltr ? antauen : malantauen);
+    // Alt with an arrow works the button that shows that arrow.
+    const QKeySequence altDekstren(Qt::ALT | Qt::Key_Right), altMaldekstren(Qt::ALT | Qt::Key_Left);
+    klavoj::donas(ui->dekstren, "Antauen", {QKeySequence(Qt::Key_PageDown), ltr ? altDekstren : altMaldekstren});
+    klavoj::donas(ui->maldekstren, "Malantauen", {QKeySequence(Qt::Key_PageUp), ltr ? altMaldekstren : altDekstren});
+    klavoj::donas(ui->Hejmo, "Hejmo", {QKeySequence(Qt::ALT | Qt::Key_Home)});
+    klavoj::konsiletoj(ui->navigujo, traduko);
+    klavoj::konsiletoj(ui->butonujo, traduko);
 
     if (QTabWidget* langetoj = lecionLangetoj(ui->Paghujo->currentWidget())) {
         ui->kiom_da_paghoj->setText(QStringLiteral("%1/%2").arg(langetoj->currentIndex() + 1).arg(langetoj->count()));

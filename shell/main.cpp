@@ -11,6 +11,7 @@ int main(int argc, char** argv)
     QCoreApplication::setApplicationName(QStringLiteral("LerniloMelo"));
     QCoreApplication::setApplicationVersion(QStringLiteral("5.0 melo"));
     QGuiApplication::setApplicationDisplayName(QStringLiteral("Lernilo Melo"));
+    QGuiApplication::setDesktopFileName(QStringLiteral(LERNILO_ID));
     QCoreApplication::setOrganizationName(QStringLiteral("Lernilo"));
     QCoreApplication::setOrganizationDomain(QStringLiteral("lernilo.example.org"));
 

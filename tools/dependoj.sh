@@ -1,6 +1,7 @@
 #!/bin/sh
 # Installs the Debian packages that building, running and testing the course
-# need. Only packages that are missing are installed, so a second run is quick.
+# need, and the packages named as arguments. Only packages that are missing
+# are installed, so a second run is quick.
 set -eu
 
 PAKOJ="
@@ -13,6 +14,7 @@ fluidsynth timgm6mb-soundfont
 fonts-dejavu-core
 hunspell myspell-eo
 poppler-utils xvfb xauth
+$*
 "
 
 mankas=""

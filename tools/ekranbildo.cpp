@@ -12,7 +12,6 @@
 #include <QFrame>
 #include <QScrollArea>
 #include <QSettings>
-#include <QTabWidget>
 #include <QTemporaryDir>
 #include <cstdio>
 
@@ -48,8 +47,10 @@ int main(int argc, char** argv)
     fenestro.show();
     if (leciono >= 1 && leciono <= KiomDaLecionoj) {
         fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(leciono))->click();
-        if (QTabWidget* langetoj = fenestro.leciono(leciono)->findChild<QTabWidget*>())
-            langetoj->setCurrentIndex(pagho);
+        // Turned page by page, as the learner does, so the counter agrees.
+        auto* antauen = fenestro.findChild<QAbstractButton*>(QStringLiteral("dekstren"));
+        for (int i = 0; i < pagho && antauen; ++i)
+            antauen->click();
     }
     for (int i = 0; i < 5; ++i)
         QApplication::processEvents();

@@ -1,5 +1,6 @@
 #include "tradukeroj.h"
 #include "funkcioj.h"
+#include "klavoj.h"
 #include "lecionkadro.h"
 
 #include <QLabel>
@@ -75,6 +76,10 @@ QString tradukeroj::tdf()
     grupoj << grupo("Menuo", {"KioEstas", "KielUzi", "Konfigurado", "Kreditoj", "Eliri", "KieButono"});
     grupoj << grupo("Mesagxoj", {"smGratulon", "smDenove", "smModifis", "smTondujo", "smDevasHaviKor",
                                  "smKoverto", "smDisketo", "smPordo", "smLigilo", "smPrononcoNeTrovita"});
+    QStringList klavaj(QStringLiteral("[Klavoj]"));
+    for (const QString& ago : klavoj::agoj())
+        klavaj << QStringLiteral("%1=%2").arg(klavaj.size() - 1, 3, 10, QLatin1Char('0')).arg(ago);
+    grupoj << klavaj;
     QStringList partoj;
     for (const QStringList& g : grupoj)
         partoj << g.join(crlf) + crlf;

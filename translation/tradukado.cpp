@@ -1,4 +1,5 @@
 #include "funkcioj.h"
+#include "klavoj.h"
 #include "klakbutono_nova.h"
 #include "korekta.h"
 #include "label_klakebla.h"
@@ -109,4 +110,5 @@ void Trad(QWidget* radiko, QString grupo)
             }
         }
     }
+    klavoj::konsiletoj(radiko, traduko);
 }

@@ -59,6 +59,7 @@ private slots:
     void nombroj_data();
     void nombroj();
     void tutaRulado();
+    void perKlavaro();
     void presado();
 
 private:
@@ -121,6 +122,35 @@ void tst_ekznumeraloj::nombroj()
     QVERIFY(butono(l.e, "BitBtn3")->isEnabled());
     QVERIFY(kampo(l.e)->isEnabled() && kampo(l.e)->hasFocus());
     QCOMPARE(kampo(l.e)->text(), takso == -1 ? tajpita : QString());
+}
+
+// From the lesson's first page without the mouse: the page key brings the
+// exercise, Return starts it, the field has the focus, and Return checks the
+// answer there rather than starting the exercise again.
+void tst_ekznumeraloj::perKlavaro()
+{
+    lernilo fenestro;
+    fenestro.show();
+    fenestro.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&fenestro));
+    lNoteto = false;
+    lSxaltilo = false;
+    butono(&fenestro, "Leciono3")->click();
+    auto* e = fenestro.leciono(3)->findChild<ekznumeraloj*>(QStringLiteral("Lec03_Ekz_0301"));
+    auto* langetoj = fenestro.leciono(3)->findChild<QTabWidget*>();
+    for (int i = 0; i < langetoj->count() && langetoj->currentWidget() != e->parentWidget(); ++i)
+        QTest::keyClick(&fenestro, Qt::Key_PageDown);
+    QCOMPARE(langetoj->currentWidget(), e->parentWidget());
+
+    QTest::keyClick(&fenestro, Qt::Key_Return);
+    QVERIFY(kampo(e)->hasFocus());
+    QTest::keyClicks(QApplication::focusWidget(), e->respondoj.at(e->nuna));
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
+    QCOMPARE(placar(e, 2), 1);
+    QCOMPARE(placar(e, 1), 23);
+    QVERIFY(kampo(e)->hasFocus());
+    // The Start button names its key in the learner's language.
+    QCOMPARE(butono(e, "BitBtn1")->toolTip(), QStringLiteral("Start (Return, Enter)"));
 }
 
 // One mistake, then every number of the data right: all 24 are asked once.

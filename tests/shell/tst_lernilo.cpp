@@ -21,6 +21,7 @@ class tst_lernilo : public QObject
 private slots:
     void init();
     void cleanup();
+    void ikonoKajMonitoroj();
     void lecionoKonstruataUnufoje();
     void nekonataPaghoShanghasNenion();
     void rekomencoEnSamaLeciono_data();
@@ -31,6 +32,7 @@ private slots:
     void paghojAranghatajNurKiamMontrataj();
     void aliaFenestroNeShovasRekomencon();
     void navigiloRondiras();
+    void navigiloPerKlavaro();
     void sagojLauDirekto_data();
     void sagojLauDirekto();
     void fermoElLecionoIrasHejmen();
@@ -72,6 +74,14 @@ QTabWidget* tst_lernilo::langetoj(int leciono)
 {
     QFrame* kadro = fenestro->leciono(leciono);
     return kadro ? kadro->findChild<QTabWidget*>() : nullptr;
+}
+
+void tst_lernilo::ikonoKajMonitoroj()
+{
+    QVERIFY(!QApplication::windowIcon().isNull());
+    QVERIFY(QApplication::windowIcon().availableSizes().value(0).width() >= 64);
+    const QString ligilo = fenestro->findChild<QLabel*>("label_126")->text();
+    QVERIFY2(ligilo.contains("href=\"" + sServilo + "/monitoroj\""), qPrintable(ligilo));
 }
 
 void tst_lernilo::lecionoKonstruataUnufoje()
@@ -218,6 +228,32 @@ void tst_lernilo::navigiloRondiras()
     QCOMPARE(bildo, QPixmap(":/ikonoj_androjdo/hejmo/leciono03.png").toImage());
 }
 
+void tst_lernilo::navigiloPerKlavaro()
+{
+    klakas("Leciono3");
+    QTabWidget* l = langetoj(3);
+    QTest::keyClick(fenestro, Qt::Key_PageDown);
+    QCOMPARE(l->currentIndex(), 1);
+    QTest::keyClick(fenestro, Qt::Key_Right, Qt::AltModifier);
+    QCOMPARE(l->currentIndex(), 2);
+    QCOMPARE(fenestro->findChild<QLabel*>("kiom_da_paghoj")->text(), QStringLiteral("3/10"));
+    QTest::keyClick(fenestro, Qt::Key_PageUp);
+    QTest::keyClick(fenestro, Qt::Key_Left, Qt::AltModifier);
+    QTest::keyClick(fenestro, Qt::Key_Left, Qt::AltModifier);
+    QCOMPARE(l->currentIndex(), 9);
+    QCOMPARE(fenestro->findChild<QAbstractButton*>("dekstren")->toolTip(),
+             "Next page (" + QKeySequence(Qt::Key_PageDown).toString(QKeySequence::NativeText) + ", "
+                 + QKeySequence(Qt::ALT | Qt::Key_Right).toString(QKeySequence::NativeText) + ")");
+
+    auto* paghujo = fenestro->findChild<QStackedWidget*>("Paghujo");
+    QTest::keyClick(fenestro, Qt::Key_Home, Qt::AltModifier);
+    QCOMPARE(paghujo->currentIndex(), 0);
+    // The page keys turn no hidden lesson's pages from the home page.
+    QTest::keyClick(fenestro, Qt::Key_PageDown);
+    QCOMPARE(paghujo->currentIndex(), 0);
+    QCOMPARE(l->currentIndex(), 9);
+}
+
 void tst_lernilo::sagojLauDirekto_data()
 {
     QTest::addColumn<QString>("direkto");
@@ -248,9 +284,12 @@ void tst_lernilo::sagojLauDirekto()
     QCOMPARE(bildoDe("dekstren") == antauen, dekstrenMontrasDekstren);
     QCOMPARE(bildoDe("maldekstren") == malantauen, dekstrenMontrasDekstren);
     QCOMPARE(bildoDe("dekstren") == malantauen, !dekstrenMontrasDekstren);
-    // Whatever the arrows show, "dekstren" goes on to the next page.
+    // Whatever the arrows show, "dekstren" goes on to the next page, and so
+    // does Alt with the arrow it shows.
     klakas("dekstren");
     QCOMPARE(langetoj(4)->currentIndex(), 1);
+    QTest::keyClick(fenestro, dekstrenMontrasDekstren ? Qt::Key_Right : Qt::Key_Left, Qt::AltModifier);
+    QCOMPARE(langetoj(4)->currentIndex(), 2);
     sTradukoDosiero.clear();
 }
 
