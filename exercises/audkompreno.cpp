@@ -9,7 +9,6 @@
 #include <QGuiApplication>
 #include <QInputMethod>
 #include <QLabel>
-#include <QScroller>
 
 audkompreno::audkompreno(QWidget* parent)
     : QFrame(parent)
@@ -19,7 +18,7 @@ audkompreno::audkompreno(QWidget* parent)
     klavoj::komenco(ui->BitBtn8);
     klavoj::reaudo(ui->BitBtn9);
     ltr_marko = QString(QChar(0x200E));
-    QScroller::grabGesture(ui->scrollArea->viewport(), QScroller::LeftMouseButtonGesture);
+    ebligasTrenon(ui->scrollArea);
 
     // The panel of answers: four columns that fill one after the other.
     ui->vortujo->setStyleSheet(QStringLiteral("QLabel { font-weight: bold; color: #2E4272; }"));

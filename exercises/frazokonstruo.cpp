@@ -11,7 +11,6 @@
 #include <QCoreApplication>
 #include <QFile>
 #include <QPushButton>
-#include <QScroller>
 #include <QSet>
 
 namespace {
@@ -72,7 +71,7 @@ frazokonstruo::frazokonstruo(QWidget* parent)
         connect(b, &QPushButton::clicked, this, &frazokonstruo::vortoklako);
     }
 
-    QScroller::grabGesture(ui->scrollArea->viewport(), QScroller::LeftMouseButtonGesture);
+    ebligasTrenon(ui->scrollArea);
     setUpdatesEnabled(true);
     QCoreApplication::processEvents();
 }

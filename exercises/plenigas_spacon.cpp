@@ -125,11 +125,31 @@ void plenigas_spacon::novafrazo()
         kampo->clear();
     }
 
+    faldasFragmentojn();
+
     if (unua)
         unua->setFocus();
     else
         ui->BitBtn6->setFocus();
     QGuiApplication::inputMethod()->show();
+}
+
+// A fragment on one line is the easiest to read, but a sentence wider than
+// the exercise would make the row, and with it the window, wider: such a
+// sentence wraps inside its fragments instead.
+void plenigas_spacon::faldasFragmentojn()
+{
+    for (int k = 0; k < 6; ++k)
+        vorto(k)->setWordWrap(false);
+    // The columns keep the measures of the sentence before until laid out.
+    for (QLayout* arangho : ui->Tajpujo->findChildren<QLayout*>())
+        arangho->invalidate();
+    QLayout* vico = ui->Tajpujo->layout();
+    const QMargins m = ui->frame->layout()->contentsMargins();
+    const int loko = ui->frame->contentsRect().width() - m.left() - m.right() - 2 * ui->Tajpujo->frameWidth();
+    const bool faldu = vico->minimumSize().width() > loko;
+    for (int k = 0; k < 6; ++k)
+        vorto(k)->setWordWrap(faldu);
 }
 
 void plenigas_spacon::on_BitBtn6_clicked()

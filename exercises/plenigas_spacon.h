@@ -57,6 +57,8 @@ private:
     QString folio() const;   // the paper sheet of the whole exercise, as HTML
     // Return in field k (0 to 4): on to the next field in use, or Check.
     void revenas(int k);
+    // Lets the fragments wrap when the sentence is wider than its row.
+    void faldasFragmentojn();
     QLabel* vorto(int k) const { return etikedoj.at(2 * k); }
     QLabel* korektaVorto(int k) const { return etikedoj.at(2 * k + 1); }
 

@@ -8,7 +8,6 @@
 #include <QAudioEncoderSettings>
 #include <QAudioRecorder>
 #include <QMediaPlayer>
-#include <QScroller>
 #include <QTimer>
 #include <QUrl>
 
@@ -61,7 +60,7 @@ prononco::prononco(QWidget* parent)
     ui->PP_Prog->setSizePolicy(politiko);
     ui->PP_Prog->hide();
     ui->PP_Kiomope->hide();
-    QScroller::grabGesture(ui->scrollArea->viewport(), QScroller::LeftMouseButtonGesture);
+    ebligasTrenon(ui->scrollArea);
     savejo = savasLoko;
     registrilo = new QAudioRecorder;
     registrilo->setEncodingSettings(kodigo());

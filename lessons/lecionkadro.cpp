@@ -1,4 +1,5 @@
 #include "lecionkadro.h"
+#include "funkcioj.h"
 #include "lecionfonto.h"
 #include "lecionkonstruilo.h"
 #include "lernilo.h"
@@ -8,7 +9,6 @@
 #include <QBoxLayout>
 #include <QLabel>
 #include <QScrollArea>
-#include <QScroller>
 #include <QTabWidget>
 
 lecionkadro::lecionkadro(int numero, QWidget* parent)
@@ -19,7 +19,7 @@ lecionkadro::lecionkadro(int numero, QWidget* parent)
     langetujo = lecionkonstruilo::konstruas(fonto, this);
 
     for (QScrollArea* rulumo : findChildren<QScrollArea*>())
-        QScroller::grabGesture(rulumo->viewport(), QScroller::LeftMouseButtonGesture);
+        ebligasTrenon(rulumo);
     if (numero == 2)
         aldonasFilmon();
 

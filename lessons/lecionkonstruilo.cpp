@@ -149,9 +149,11 @@ void Konstruanto::metas(const LecionEro& e, QWidget* gepatro, QBoxLayout* arangh
         return;
     }
     if (e.klaso == QLatin1String("QScrollArea")) {
+        // Left non-resizable: a page's contents are laid out when the page
+        // is first shown. The contents join the area while still empty, so
+        // that what is put in them is styled once, in its final place.
         auto* rulumo = new QScrollArea(gepatro);
         rulumo->setObjectName(e.nomo);
-        rulumo->setWidgetResizable(true);
         objektoj.insert(e.nomo, rulumo);
         auto* enhavo = new QWidget;
         QString enhavoNomo = e.nomo;
@@ -160,8 +162,8 @@ void Konstruanto::metas(const LecionEro& e, QWidget* gepatro, QBoxLayout* arangh
             enhavoNomo += QLatin1String("WidgetContents");
         enhavo->setObjectName(enhavoNomo);
         objektoj.insert(enhavoNomo, enhavo);
-        metasIdojn(e.idoj, enhavo, e);
         rulumo->setWidget(enhavo);
+        metasIdojn(e.idoj, enhavo, e);
         if (aranghilo)
             aranghilo->addWidget(rulumo);
         return;
@@ -198,15 +200,17 @@ QTabWidget* Konstruanto::konstruas(const lecionfonto& fonto, QWidget* kadro)
     langetoj->setIconSize(QSize(24, 24));
     objektoj.insert(langetoj->objectName(), langetoj);
 
+    // Each page joins the tab widget before it is filled: its widgets are
+    // made inside the styled tree, and their text is laid out only once.
     for (const LecionPagho& p : fonto.paghoj) {
         auto* pagho = new QWidget;
         pagho->setObjectName(p.nomo);
         objektoj.insert(p.nomo, pagho);
+        langetoj->addTab(pagho, p.ikono.isEmpty() ? QIcon() : QIcon(p.ikono), p.teksto);
         auto* aranghilo = new QVBoxLayout(pagho);
         aranghilo->setObjectName(p.aranghilo);
         for (const LecionEro& ido : p.idoj)
             metas(ido, pagho, aranghilo);
-        langetoj->addTab(pagho, p.ikono.isEmpty() ? QIcon() : QIcon(p.ikono), p.teksto);
     }
     for (const auto& amiko : qAsConst(amikoj)) {
         if (auto* w = qobject_cast<QWidget*>(objektoj.value(amiko.second)))

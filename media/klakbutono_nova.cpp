@@ -1,5 +1,9 @@
 #include "klakbutono_nova.h"
 #include "funkcioj.h"
+#include "lernilo.h"
+
+#include <QApplication>
+#include <QMediaPlayer>
 
 klakbutono_nova::klakbutono_nova(QWidget* parent, Qt::WindowFlags f)
     : QLabel(parent, f)
@@ -25,4 +29,14 @@ void klakbutono_nova::klakita()
 void klakbutono_nova::mousePressEvent(QMouseEvent*)
 {
     emit clicked();
+}
+
+void klakbutono_nova::silentas()
+{
+    auto* fenestro = qobject_cast<lernilo*>(QApplication::activeWindow());
+    if (!fenestro)
+        return;
+    const QString vojo = mrLoko + sonoVojo(text(), objectName()).toLower();
+    if (fenestro->ludilo->media().request().url() == QUrl::fromLocalFile(vojo))
+        fenestro->ludilo->stop();
 }

@@ -16,6 +16,9 @@ public:
     // longer by the widget's number.
     static QString sonoVojo(const QString& teksto, const QString& objekto);
 
+    // Stops the word's sound if it is the one playing.
+    void silentas();
+
 signals:
     void clicked();
 

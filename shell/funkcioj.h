@@ -8,6 +8,7 @@
 // Each function lives in the folder of its subsystem:
 //   shell/funkcioj.cpp            the globals, the folders, the draw
 //   shell/arbo.cpp                finding widgets in the window's tree
+//   lessons/trenado.cpp           scrolling a page by dragging
 //   input/literoj.cpp             letter systems, cleaning of typed answers
 //   media/sonoj.cpp               sound-file names, the player
 //   media/parolado.cpp            notes, spoken feedback, the verdict box, pauses
@@ -31,6 +32,7 @@ class QWidget;
 class QLabel;
 class QTabWidget;
 class QProgressBar;
+class QScrollArea;
 class QSettings;
 
 // File-name endings of every sound and every video file.
@@ -91,6 +93,11 @@ extern QString sEksteraRetejo;
 extern QString smRekomencu, smGratulon, smDenove, smModifis, smTondujo,
     smDevasHaviKor, smDevasSavi, smKoverto, smDisketo, smPordo, smLigilo,
     smNeSono, Antauen, Nuligi;
+
+// Makes the area scroll when its page is dragged, as on a touch screen. A
+// press still reaches the widget under it at once, so a word speaks when
+// pressed; a drag that starts on a word silences it.
+void ebligasTrenon(QScrollArea* rulumo);
 
 // Folder of kind "multrimedoj" (media) or "skribebla" (writable) on sSistemo.
 QString kiuSistemo(QString kiu);

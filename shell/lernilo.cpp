@@ -23,13 +23,48 @@
 #include <QMediaPlayer>
 #include <QScreen>
 #include <QScrollArea>
-#include <QScroller>
 #include <QSettings>
 #include <QLabel>
 #include <QRegularExpression>
 #include <QTabWidget>
 
 namespace {
+
+// Setting a style sheet restyles every widget beneath, even when the sheet
+// is the same: an unchanged sheet is left alone, so that a change of language
+// costs nothing however many lessons are built.
+void metasStilon(QWidget* w, const QString& stilo)
+{
+    if (w->styleSheet() != stilo)
+        w->setStyleSheet(stilo);
+}
+
+// The font of the learner's language, for the whole program.
+QFont lingvaTiparo()
+{
+    QFont tiparo(sTiparo);
+    tiparo.setPointSize(ghustigas_tiparon(iLiterGrando));
+    return tiparo;
+}
+
+// The part of the style that follows the settings: sizes and the font of
+// Esperanto.
+QString tiparaStilo()
+{
+    const int eo = ghustigas_tiparon(iLiterGrandoEo);
+    const int lingvo = ghustigas_tiparon(iLiterGrando);
+    const int lingvo125 = int(lingvo * 1.25);
+    const int eo125 = int(eo * 1.25);
+    return QStringLiteral("myLabel#label_Kie, #label_Kreditoj, #label_Kio, #label_Konfiguroj, #label_Kiel, #label_Eliri { font-size: ")
+           + QString::number(lingvo - 1) + QStringLiteral("pt; font-weight: bold; } ")
+           + QStringLiteral("titolo { font-size: ") + QString::number(lingvo125)
+           + QStringLiteral("pt; font-weight: bold; min-height: 1.2em;} ")
+           + QStringLiteral("QLabel[lingvo=\"eo\"], klakbutono_nova, neklakebla_nova, korekta, cx_edit, cx_plainedit, cx_edit_minuskla { font-family: \"")
+           + sTiparoEo + QStringLiteral("\";  font-size: ") + QString::number(eo) + QStringLiteral("pt;} ")
+           + QStringLiteral("titolo[lingvo=\"eo\"], QPushButton[tipo=\"speciala\"], QLabel[tipo=\"afikso\"]  { font-family: \"")
+           + sTiparoEo + QStringLiteral("\"; font-size: ") + QString::number(eo125)
+           + QStringLiteral("pt; font-weight: bold; min-height: 1.2em;} ");
+}
 
 QString lecionaPagho(int numero)
 {
@@ -93,11 +128,15 @@ lernilo::lernilo(QWidget* parent)
 {
     randomize();
     ui->setupUi(this);
+    // The window keeps the size it was given. Without this its layout would
+    // raise the window's minimum to that of the widest page, and the window
+    // would widen by itself whenever a page's contents asked for more room.
+    layout()->setSizeConstraint(QLayout::SetNoConstraint);
 
     // The pages scroll by dragging.
     for (const char* nomo : {"scrollArea", "scrollArea_3", "scrollArea_2", "scrollArea_5"}) {
         if (auto* rulumo = findChild<QScrollArea*>(QLatin1String(nomo)))
-            QScroller::grabGesture(rulumo->viewport(), QScroller::LeftMouseButtonGesture);
+            ebligasTrenon(rulumo);
     }
     QApplication::setWindowIcon(QIcon(QStringLiteral(":lernilo5.ico")));
     // Course monitors are listed on this build's own server.
@@ -127,11 +166,17 @@ lernilo::lernilo(QWidget* parent)
 
 void lernilo::Stilo()
 {
+    QFile dosiero(QStringLiteral(":stiloj/lernilo.qss"));
+    dosiero.open(QIODevice::ReadOnly);
+    const QString fiksa = QString::fromUtf8(dosiero.readAll());
+    // Turning updates off and on walks every widget of every built lesson:
+    // not needed when nothing changes.
+    if (QApplication::font() == lingvaTiparo() && ui->centralWidget->styleSheet() == tiparaStilo()
+        && ui->Paghujo->styleSheet() == fiksa)
+        return;
     setUpdatesEnabled(false);
     ShanghasTiparStilon();
-    QFile stilo(QStringLiteral(":stiloj/lernilo.qss"));
-    stilo.open(QIODevice::ReadOnly);
-    ui->Paghujo->setStyleSheet(QString::fromUtf8(stilo.readAll()));
+    metasStilon(ui->Paghujo, fiksa);
     setUpdatesEnabled(true);
 }
 
@@ -154,6 +199,9 @@ void lernilo::komencakonfiguro()
     dosiero.endGroup();
     if (!sekuraDosierNomo(sTradukoDosiero))
         sTradukoDosiero.clear();   // a damaged setting: choose the language anew
+    // Fonts and style sheets before anything is polished, so that no widget
+    // is styled twice; Konfiguru finds them set.
+    Stilo();
 
     if (sLingvo.isEmpty() || sTradukoDosiero.isEmpty()) {
         // First run: the language comes before the window.
@@ -354,8 +402,8 @@ void lernilo::Konfiguru()
         ui->glitilo_traduko->setValue(iLiterGrando);
         ui->LiterGrandoEo->setValue(iLiterGrandoEo);
         ui->glitilo_eo->setValue(iLiterGrandoEo);
-        ui->tekstoEo->setStyleSheet(specimenStilo(sTiparoEo, iLiterGrandoEo));
-        ui->tekstoLingvo->setStyleSheet(specimenStilo(sTiparo, iLiterGrando));
+        metasStilon(ui->tekstoEo, specimenStilo(sTiparoEo, iLiterGrandoEo));
+        metasStilon(ui->tekstoLingvo, specimenStilo(sTiparo, iLiterGrando));
     }
     ui->tekstoLingvo->setText(sLingvo);
     QCoreApplication::processEvents();
@@ -370,24 +418,10 @@ QString lernilo::specimenStilo(const QString& tiparo, int grando)
 
 void lernilo::ShanghasTiparStilon()
 {
-    const int eo = ghustigas_tiparon(iLiterGrandoEo);
-    const int lingvo = ghustigas_tiparon(iLiterGrando);
-    QFont tiparo(sTiparo);
-    tiparo.setPointSize(lingvo);
-    QApplication::setFont(tiparo);
-    const int lingvo125 = int(lingvo * 1.25);
-    const int eo125 = int(eo * 1.25);
-    const QString stilo =
-        QStringLiteral("myLabel#label_Kie, #label_Kreditoj, #label_Kio, #label_Konfiguroj, #label_Kiel, #label_Eliri { font-size: ")
-        + QString::number(lingvo - 1) + QStringLiteral("pt; font-weight: bold; } ")
-        + QStringLiteral("titolo { font-size: ") + QString::number(lingvo125)
-        + QStringLiteral("pt; font-weight: bold; min-height: 1.2em;} ")
-        + QStringLiteral("QLabel[lingvo=\"eo\"], klakbutono_nova, neklakebla_nova, korekta, cx_edit, cx_plainedit, cx_edit_minuskla { font-family: \"")
-        + sTiparoEo + QStringLiteral("\";  font-size: ") + QString::number(eo) + QStringLiteral("pt;} ")
-        + QStringLiteral("titolo[lingvo=\"eo\"], QPushButton[tipo=\"speciala\"], QLabel[tipo=\"afikso\"]  { font-family: \"")
-        + sTiparoEo + QStringLiteral("\"; font-size: ") + QString::number(eo125)
-        + QStringLiteral("pt; font-weight: bold; min-height: 1.2em;} ");
-    ui->centralWidget->setStyleSheet(stilo);
+    const QFont tiparo = lingvaTiparo();
+    if (QApplication::font() != tiparo)
+        QApplication::setFont(tiparo);
+    metasStilon(ui->centralWidget, tiparaStilo());
 }
 
 void lernilo::ShanghasTiparon()
@@ -561,9 +595,12 @@ void lernilo::ShanghasPaghon(QString pagho, QFrame* leciono)
             if (langetoj->objectName().startsWith(QLatin1String("Lec")) || langetoj->objectName() == QLatin1String("Fina_Ekzameno"))
                 SxargxasEk(langetoj, false);
         }
-        // Pages are laid out when first shown, not all at once now.
-        for (QScrollArea* rulumo : pagh->findChildren<QScrollArea*>())
-            rulumo->setWidgetResizable(false);
+        // Pages are laid out when first shown, not all at once now. (Setting
+        // the state again would lay out the contents all the same.)
+        for (QScrollArea* rulumo : pagh->findChildren<QScrollArea*>()) {
+            if (rulumo->widgetResizable())
+                rulumo->setWidgetResizable(false);
+        }
         QCoreApplication::processEvents();
     }
 

@@ -47,10 +47,10 @@ int main(int argc, char** argv)
     fenestro.show();
     if (leciono >= 1 && leciono <= KiomDaLecionoj) {
         fenestro.findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(leciono))->click();
-        // Turned page by page, as the learner does, so the counter agrees.
-        auto* antauen = fenestro.findChild<QAbstractButton*>(QStringLiteral("dekstren"));
-        for (int i = 0; i < pagho && antauen; ++i)
-            antauen->click();
+        if (QTabWidget* langetoj = lecionLangetoj(fenestro.leciono(leciono))) {
+            langetoj->setCurrentIndex(pagho);
+            fenestro.komencas_navigujon();   // the counter shows the page shown
+        }
     }
     for (int i = 0; i < 5; ++i)
         QApplication::processEvents();

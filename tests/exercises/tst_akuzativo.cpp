@@ -78,6 +78,7 @@ private slots:
     void forgesitaVortoBlinkas();
     void erarojKajFermo();
     void senTraduko();
+    void klarigoVideblaTuta();
     void tutaRulado_data();
     void tutaRulado();
 
@@ -200,6 +201,28 @@ void tst_akuzativo::senTraduko()
     klakas(butono(l.e, "BitBtn2"));
     QVERIFY(placar(l.e, 2) + placar(l.e, 3) > 0);
     QVERIFY(!frazo(l.e).isEmpty() && butono(l.e, "BitBtn2")->isEnabled());
+}
+
+// A long sentence and the longest explanation stand whole at the window's
+// first size, in every language the course ships, with no scrolling.
+void tst_akuzativo::klarigoVideblaTuta()
+{
+    const QStringList lingvoj = QDir(":/tradukoj").entryList({"*.trd"});
+    QVERIFY(!lingvoj.isEmpty());
+    for (const QString& dosiero : lingvoj) {
+        preparasLerninton(*ujo, dosiero, dosiero);
+        Leciono l;
+        l.unuFrazo(QString::fromUtf8("Hieraŭ~mia~malgranda~frato~aĉetis~bela~ruĝa~biciklo~en~urbo"),
+                   "~~~~~1~1~1~~", "7~2~1~0~3~5~5~4~6~2");
+        klakas(vorto(l.e, 5));
+        QVERIFY2(teksto(l.e, "Klarigo").size() > 100, qPrintable(dosiero));
+        for (const char* nomo : {"Vortoj", "Traduko1", "Klarigo"}) {
+            QWidget* w = l.e->findChild<QWidget*>(nomo);
+            QVERIFY2(w->visibleRegion() == QRegion(w->rect()), qPrintable(dosiero + ": " + nomo));
+            if (w->hasHeightForWidth())
+                QVERIFY2(w->height() >= w->heightForWidth(w->width()), qPrintable(dosiero + ": " + nomo));
+        }
+    }
 }
 
 void tst_akuzativo::tutaRulado_data()

@@ -122,6 +122,7 @@ private slots:
     void plenaRulado_data();
     void plenaRulado();
     void malplenaGrupo();
+    void fenestroKonservasGrandon();
     void presado();
 
 private:
@@ -284,6 +285,33 @@ void tst_plenigas_spacon::malplenaGrupo()
     QTest::mouseClick(butono(s.e, "BitBtn4"), Qt::LeftButton);
     QVERIFY(butono(s.e, "BitBtn4")->isEnabled() && !butono(s.e, "BitBtn5")->isEnabled());
     QVERIFY(s.e->findChild<QWidget*>(QStringLiteral("Tajpujo"))->isHidden());
+}
+
+// Every sentence of lesson 9, and one longer than any row, stand whole in
+// the window at its first size, and the window never widens for them.
+void tst_plenigas_spacon::fenestroKonservasGrandon()
+{
+    Leciono l(9, QStringLiteral("Lec09_Ekz_Plen_0902"));
+    const QSize grando = l.fenestro.size();
+    QWidget* tajpujo = l.e->findChild<QWidget*>(QStringLiteral("Tajpujo"));
+    l.e->datumoj << sesKampoj(QString::fromUtf8("Hieraŭ vespere la tuta granda familio de mia plej bona amiko ~"
+                                                " ĝis malfrue en la bela ĝardeno apud la malnova preĝejo."));
+    l.e->respondoj << sesKampoj(QStringLiteral("babilis"));
+    l.e->uzitaj << false;
+    ++l.e->kiom;
+    for (int i = 0; i < l.e->kiom; ++i) {
+        for (int j = 0; j < l.e->kiom; ++j)
+            l.e->uzitaj[j] = j != i;
+        l.e->novafrazo();
+        QTest::qWait(1);
+        const QString frazo = l.e->datumoj.at(i).join(QLatin1Char('_'));
+        QVERIFY2(l.fenestro.size() == grando, qPrintable(frazo));
+        QVERIFY2(tajpujo->minimumSizeHint().width() <= tajpujo->width(), qPrintable(frazo));
+        for (QLabel* etikedo : qAsConst(l.e->etikedoj)) {
+            if (!etikedo->isHidden() && etikedo->hasHeightForWidth())
+                QVERIFY2(etikedo->height() >= etikedo->heightForWidth(etikedo->width()), qPrintable(frazo));
+        }
+    }
 }
 
 void tst_plenigas_spacon::presado()

@@ -27,6 +27,7 @@ private slots:
     void aplikoEbligataKajMalebligata();
     void glitiloKajNombrujoSamtempe();
     void tiparojAtingasStilon();
+    void samaStiloNeRestilas();
     void salutoLauHoro_data();
     void salutoLauHoro();
     void fermoElHejmoForigasRegistrajhojn();
@@ -192,6 +193,43 @@ void tst_agordoj::tiparojAtingasStilon()
     const QString stilo = trovas<QWidget>("centralWidget")->styleSheet();
     QVERIFY2(stilo.contains("DejaVu Serif") && stilo.contains(QStringLiteral(" %1pt").arg(eo)), qPrintable(stilo));
     QCOMPARE(QApplication::font().pointSize(), lingvo);
+}
+
+// Counts the restyling that reaches one widget.
+class Restiloj : public QObject
+{
+public:
+    int kiom = 0;
+    bool eventFilter(QObject*, QEvent* e) override
+    {
+        if (e->type() == QEvent::StyleChange || e->type() == QEvent::FontChange)
+            ++kiom;
+        return false;
+    }
+};
+
+void tst_agordoj::samaStiloNeRestilas()
+{
+    malfermas();
+    trovas<QAbstractButton>("Leciono1")->click();
+    trovas<QAbstractButton>("Hejmo")->click();
+    QWidget* vorto = fenestro->leciono(1)->findChild<QWidget*>("Lec01_Button3X");
+    QVERIFY(vorto);
+    Restiloj restiloj;
+    vorto->installEventFilter(&restiloj);
+
+    // A relabelling leaves the fonts and sheets as they are: nothing in the
+    // built lesson is styled again.
+    fenestro->Traduku();
+    QCoreApplication::processEvents();
+    QCOMPARE(restiloj.kiom, 0);
+
+    // A change of size does reach it.
+    trovas<QAbstractButton>("Konfigurado")->click();
+    trovas<QSpinBox>("LiterGrandoEo")->setValue(iLiterGrandoEo + 2);
+    trovas<QAbstractButton>("shanghasKonfigurojn")->click();
+    QCoreApplication::processEvents();
+    QVERIFY(restiloj.kiom > 0);
 }
 
 void tst_agordoj::salutoLauHoro_data()

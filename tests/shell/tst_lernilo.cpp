@@ -37,6 +37,7 @@ private slots:
     void sagojLauDirekto();
     void fermoElLecionoIrasHejmen();
     void fermoElHejmoKonservas();
+    void fenestroKonservasGrandon();
 
 private:
     void klakas(const QString& butono);
@@ -320,6 +321,25 @@ void tst_lernilo::fermoElHejmoKonservas()
     QCOMPARE(agordoj.value("LastaPagxo").toInt(), 4);
     QCOMPARE(agordoj.value("LiterGrando").toInt(), 11);
     QCOMPARE(agordoj.value("Tiparo").toString(), QStringLiteral("DejaVu Sans"));
+}
+
+// No page of any lesson asks for more width than the window has at its
+// first size, and showing them all leaves the window as it was.
+void tst_lernilo::fenestroKonservasGrandon()
+{
+    const QSize grando = fenestro->size();
+    for (int n = 1; n <= KiomDaLecionoj; ++n) {
+        klakas(QStringLiteral("Leciono%1").arg(n));
+        QTabWidget* l = langetoj(n);
+        for (int i = 0; i < l->count(); ++i) {
+            l->setCurrentIndex(i);
+            QTest::qWait(1);
+            const QString pagho = QStringLiteral("%1/%2").arg(n).arg(i + 1);
+            QVERIFY2(l->widget(i)->minimumSizeHint().width() <= l->width(), qPrintable(pagho));
+            QVERIFY2(fenestro->size() == grando, qPrintable(pagho));
+        }
+        klakas(QStringLiteral("Hejmo"));
+    }
 }
 
 QTEST_MAIN(tst_lernilo)
