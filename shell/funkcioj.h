@@ -174,8 +174,9 @@ QString agordoVojo();
 QStringList listaVico(QSettings& listo, int grupo);
 QStringList dosieraVico(const QString& nomo, const QString& datoDefaulto);
 
-// A file name from a language list or the settings that may be used inside
-// the writable folder: no folder part, no "..", nothing absolute.
+// A translation file name from a language list or the settings that may be
+// used inside the writable folder: letters, digits, "_" and "-", then ".trd".
+// So no folder part, and never the settings file or another program's file.
 bool sekuraDosierNomo(const QString& nomo);
 
 // The learner's written answers of a lesson: loaded into the fields of its
