@@ -1,5 +1,6 @@
 #include "lecionfonto.h"
 #include "klasregistro.h"
+#include "funkcioj.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -602,4 +603,17 @@ lecionfonto lecionfonto::deRimedoj(int numero)
         return f;
     }
     return legas(QString::fromUtf8(dosiero.readAll()), dosiero.fileName());
+}
+
+int lecionfonto::kiomDaPaghoj(int numero)
+{
+    QFile dosiero(rimedoVojo(numero));
+    if (numero < 1 || numero > KiomDaLecionoj || !dosiero.open(QIODevice::ReadOnly))
+        return 0;
+    int paghoj = 0;
+    while (!dosiero.atEnd()) {
+        if (dosiero.readLine().startsWith("pagho "))
+            ++paghoj;
+    }
+    return paghoj;
 }
