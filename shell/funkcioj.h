@@ -191,6 +191,9 @@ void SavasEk(QTabWidget* langetoj);
 // Both empty the list first and return the number of keys found.
 int _Matriz(QStringList* lista, QString id, QString tipo);
 int _Matriz2(QList<QStringList>* lista, QString id, QString tipo, int largho);
+// The folder of the files ekzNN.dat, ending in "/": the resources; the fuzz
+// target of the readers points it at a folder of its own.
+extern QString sEkzercujo;
 // The most items one run of some exercises takes: n, but at most 40.
 int limigo(int n);
 // Makes a widget blink for NumSec seconds to point at a right answer; the

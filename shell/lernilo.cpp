@@ -153,7 +153,7 @@ QFrame* lernilo::leciono(int numero) const
     return numero >= 1 && numero <= KiomDaLecionoj ? lecionoj[numero - 1] : nullptr;
 }
 
-void lernilo::komencakonfiguro()
+void lernilo::legasAgordojn()
 {
     inidosiero dosiero(agordoVojo());
     dosiero.beginGroup(QStringLiteral("Gxenerala"));
@@ -164,6 +164,11 @@ void lernilo::komencakonfiguro()
         LastaPagxo = 0;   // a page the lesson does not have: its first one
     if (!sekuraDosierNomo(sTradukoDosiero))
         sTradukoDosiero.clear();   // a damaged setting: choose the language anew
+}
+
+void lernilo::komencakonfiguro()
+{
+    legasAgordojn();
 
     if (sLingvo.isEmpty() || sTradukoDosiero.isEmpty()) {
         // First run: the language comes before the window.
