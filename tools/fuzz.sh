@@ -42,7 +42,7 @@ for celo in $celoj; do
     "build-fuzz/tests/fuzz/$celo" -max_total_time="$sekundoj" -timeout=20 -rss_limit_mb=4096 \
         -artifact_prefix="build-fuzz/trovoj/$celo-" -print_final_stats=1 \
         "build-fuzz/korpuso/$celo" "$(semoj "$celo")" "tests/fuzz/regresoj/$celo" 2>&1 \
-        | grep -E "^(INFO: Seed|#[0-9]+ +DONE|stat::number_of_executed_units|stat::average_exec_per_sec|==[0-9]+==|SUMMARY|broken|Test unit written)" || true
+        | grep -E "^(INFO: Seed|#[0-9]+[[:space:]]+DONE|stat::number_of_executed_units|stat::average_exec_per_sec|==[0-9]+==|SUMMARY|broken|Test unit written)" || true
     # A crash leaves its input behind and fails the run.
     if ls "build-fuzz/trovoj/$celo-"* >/dev/null 2>&1; then
         echo "$celo found a fault: $(ls build-fuzz/trovoj/$celo-*)"
