@@ -3,12 +3,14 @@
 
 #include <QSettings>
 
+QString sEkzercujo = QStringLiteral(":ekzercoj/");
+
 int _Matriz(QStringList* lista, QString id, QString tipo)
 {
     lista->clear();
     const bool traduko = tipo == QLatin1String("T");
     const QString dosiero = traduko ? Loko + QStringLiteral("tradukoj/") + sTradukoDosiero
-                                    : QStringLiteral(":ekzercoj/ekz") + id.left(2) + QStringLiteral(".dat");
+                                    : sEkzercujo + QStringLiteral("ekz") + id.left(2) + QStringLiteral(".dat");
     inidosiero datumoj(dosiero);
     datumoj.beginGroup(traduko ? QStringLiteral("Ekzerco-") + id : id + tipo);
     const int kiom = datumoj.allKeys().size();
@@ -22,7 +24,7 @@ int _Matriz(QStringList* lista, QString id, QString tipo)
 int _Matriz2(QList<QStringList>* lista, QString id, QString tipo, int largho)
 {
     lista->clear();
-    inidosiero datumoj(QStringLiteral(":ekzercoj/ekz") + id.left(2) + QStringLiteral(".dat"));
+    inidosiero datumoj(sEkzercujo + QStringLiteral("ekz") + id.left(2) + QStringLiteral(".dat"));
     datumoj.beginGroup(id + tipo);
     const int kiom = datumoj.allKeys().size();
     for (int i = 0; i < kiom; ++i) {

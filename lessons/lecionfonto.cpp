@@ -1,5 +1,6 @@
 #include "lecionfonto.h"
 #include "klasregistro.h"
+#include "funkcioj.h"
 
 #include <QFile>
 #include <QRegularExpression>
@@ -136,9 +137,12 @@ private:
     void kolektasNomojn(const QVector<LecionEro>& eroj);
     void kontrolasAmikojn(const QVector<LecionEro>& eroj);
 
+    void kontrolasNumeron();
+
     lecionfonto& f;
     QVector<Linio> linioj;
     QSet<QString> uzataj;
+    int numeroLinio = 0;
     QHash<QString, int> nombriloj;
 };
 
@@ -217,6 +221,7 @@ void Leganto::legas(const QString& teksto)
 
     if (f.numero.isEmpty())
         eraro(1, QStringLiteral("the file does not say which lesson it is: 'leciono NN' is missing"));
+    kontrolasNumeron();
 
     // Names: first every name the author wrote, then names for the rest.
     uzataj.insert(f.langetujo());
@@ -232,6 +237,22 @@ void Leganto::legas(const QString& teksto)
     }
     for (const LecionPagho& p : qAsConst(f.paghoj))
         kontrolasAmikojn(p.idoj);
+}
+
+// The lesson's number names the groups of its saved answers and its
+// translations: a source that claims another lesson than its file name says
+// would put them into another lesson's groups, so it is refused whole.
+void Leganto::kontrolasNumeron()
+{
+    static const QRegularExpression nomo(QStringLiteral("(?:^|/)lec(\\d\\d)\\.lec$"));
+    const QString laNomo = nomo.match(f.dosiero).captured(1);
+    if (laNomo.isEmpty() || f.numero.isEmpty() || laNomo == f.numero)
+        return;
+    eraro(numeroLinio, QStringLiteral("the file is lesson %1 by its name but says 'leciono %2'; nothing of it is built")
+                           .arg(laNomo, f.numero));
+    f.numero = laNomo;
+    f.paghoj.clear();
+    f.konektoj.clear();
 }
 
 void Leganto::kontrolasAmikojn(const QVector<LecionEro>& eroj)
@@ -252,7 +273,7 @@ void Leganto::legasKapon(const Linio& l)
         if (l.vortoj.size() != 2 || !du.match(l.vortoj.at(1)).hasMatch())
             eraro(l.numero, QStringLiteral("the lesson is written 'leciono NN' with two digits"));
         else
-            f.numero = l.vortoj.at(1);
+            f.numero = l.vortoj.at(1), numeroLinio = l.numero;
     } else if (vorto == QLatin1String("nuna")) {
         bool bone = false;
         const int n = l.vortoj.value(1).toInt(&bone);
@@ -602,4 +623,17 @@ lecionfonto lecionfonto::deRimedoj(int numero)
         return f;
     }
     return legas(QString::fromUtf8(dosiero.readAll()), dosiero.fileName());
+}
+
+int lecionfonto::kiomDaPaghoj(int numero)
+{
+    QFile dosiero(rimedoVojo(numero));
+    if (numero < 1 || numero > KiomDaLecionoj || !dosiero.open(QIODevice::ReadOnly))
+        return 0;
+    int paghoj = 0;
+    while (!dosiero.atEnd()) {
+        if (dosiero.readLine().startsWith("pagho "))
+            ++paghoj;
+    }
+    return paghoj;
 }

@@ -60,6 +60,9 @@ public:
     // Reads the source of lesson `numero` (1 to 13) from the resources.
     static lecionfonto deRimedoj(int numero);
     static QString rimedoVojo(int numero);
+    // How many pages the source of lesson `numero` holds, without building
+    // it: its page lines. 0 for a lesson that does not exist.
+    static int kiomDaPaghoj(int numero);
 
     QString dosiero;
     QString numero;     // the lesson's two digits, "02"

@@ -113,9 +113,14 @@ int ghustigas_tiparon(int grando)
 
 bool sekuraDosierNomo(const QString& nomo)
 {
-    return !nomo.isEmpty() && !nomo.contains(QLatin1Char('/')) && !nomo.contains(QLatin1Char('\\'))
-           && !nomo.contains(QLatin1String("..")) && !nomo.contains(QLatin1Char(':'))
-           && !QDir::isAbsolutePath(nomo);
+    const QString radiko = nomo.chopped(qMin(4, nomo.size()));
+    if (!nomo.endsWith(QLatin1String(".trd")) || radiko.isEmpty())
+        return false;
+    for (const QChar c : radiko) {
+        if (!c.isLetter() && !c.isDigit() && c != QLatin1Char('_') && c != QLatin1Char('-'))
+            return false;
+    }
+    return true;
 }
 
 QString agordoVojo()

@@ -182,8 +182,9 @@ QString agordoVojo();
 QStringList listaVico(QSettings& listo, int grupo);
 QStringList dosieraVico(const QString& nomo, const QString& datoDefaulto);
 
-// A file name from a language list or the settings that may be used inside
-// the writable folder: no folder part, no "..", nothing absolute.
+// A translation file name from a language list or the settings that may be
+// used inside the writable folder: letters, digits, "_" and "-", then ".trd".
+// So no folder part, and never the settings file or another program's file.
 bool sekuraDosierNomo(const QString& nomo);
 
 // The learner's written answers of a lesson: loaded into the fields of its
@@ -198,6 +199,9 @@ void SavasEk(QTabWidget* langetoj);
 // Both empty the list first and return the number of keys found.
 int _Matriz(QStringList* lista, QString id, QString tipo);
 int _Matriz2(QList<QStringList>* lista, QString id, QString tipo, int largho);
+// The folder of the files ekzNN.dat, ending in "/": the resources; the fuzz
+// target of the readers points it at a folder of its own.
+extern QString sEkzercujo;
 // The most items one run of some exercises takes: n, but at most 40.
 int limigo(int n);
 // Makes a widget blink for NumSec seconds to point at a right answer; the

@@ -4,7 +4,9 @@
 #include <QSettings>
 
 // An INI file read and written as UTF-8, opened for one use: the settings,
-// a translation, the language list, the exercise data.
+// a translation, the language list, the exercise data. A write replaces the
+// file only once the new one is complete, so a crash or a full disk leaves
+// the old file whole.
 class inidosiero : public QSettings
 {
 public:
@@ -12,6 +14,7 @@ public:
         : QSettings(vojo, QSettings::IniFormat)
     {
         setIniCodec("UTF-8");
+        setAtomicSyncRequired(true);
     }
 };
 

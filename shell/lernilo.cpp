@@ -4,6 +4,7 @@
 #include "filedownloader.h"
 #include "klavoj.h"
 #include "funkcioj.h"
+#include "lecionfonto.h"
 #include "lecionkadro.h"
 #include "lingvoelekto.h"
 #include "inidosiero.h"
@@ -27,6 +28,8 @@
 #include <QLabel>
 #include <QRegularExpression>
 #include <QTabWidget>
+
+#include <limits>
 
 namespace {
 
@@ -72,7 +75,9 @@ QString lecionaPagho(int numero)
 }
 
 // One setting of group Gxenerala: its key, the global it fills (a text, a
-// number or a switch) and its value where the file has none.
+// number or a switch) and its value where the file has none. A number that
+// is no number reads as the default, one out of its range as the nearest
+// bound, so that a damaged file never makes the window unusable.
 struct Agordo
 {
     const char* shlosilo;
@@ -80,16 +85,21 @@ struct Agordo
     int* nombro;
     bool* shaltilo;
     QVariant defaulto;
+    int minimumo = std::numeric_limits<int>::min();
+    int maksimumo = std::numeric_limits<int>::max();
 
     void legas(const QSettings& agordoj) const
     {
         const QVariant v = agordoj.value(QLatin1String(shlosilo), defaulto);
-        if (teksto)
+        if (teksto) {
             *teksto = v.toString();
-        else if (nombro)
-            *nombro = v.toInt();
-        else
+        } else if (nombro) {
+            bool bone = false;
+            const int n = v.toInt(&bone);
+            *nombro = qBound(minimumo, bone ? n : defaulto.toInt(), maksimumo);
+        } else {
             *shaltilo = v.toBool();
+        }
     }
 
     void skribas(QSettings& agordoj) const
@@ -98,6 +108,10 @@ struct Agordo
                          teksto ? QVariant(*teksto) : nombro ? QVariant(*nombro) : QVariant(*shaltilo));
     }
 };
+
+// Font sizes as the settings page's spin boxes allow them.
+const int minimumaGrando = 9;
+const int maksimumaGrando = 16;
 
 // Every setting the program keeps, read at the start and written at the end.
 QVector<Agordo> agordoj()
@@ -110,13 +124,13 @@ QVector<Agordo> agordoj()
         {"TiparoEo", &sTiparoEo, nullptr, nullptr, tiparo},
         {"Dosiero", &sTradukoDosiero, nullptr, nullptr, QString()},
         {"Cxapeligo", nullptr, nullptr, &lCxapeligo, true},
-        {"Sistemo", nullptr, &iSistemo, nullptr, 0},
-        {"LastaLeciono", nullptr, &LastaLeciono, nullptr, 1},
-        {"LastaPagxo", nullptr, &LastaPagxo, nullptr, 0},
+        {"Sistemo", nullptr, &iSistemo, nullptr, 0, 0, 2},
+        {"LastaLeciono", nullptr, &LastaLeciono, nullptr, 1, 1, KiomDaLecionoj},
+        {"LastaPagxo", nullptr, &LastaPagxo, nullptr, 0, 0},
         {"Sxaltilo", nullptr, nullptr, &lSxaltilo, true},
         {"Noteto", nullptr, nullptr, &lNoteto, true},
-        {"LiterGrando", nullptr, &iLiterGrando, nullptr, 11},
-        {"LiterGrandoEo", nullptr, &iLiterGrandoEo, nullptr, 11},
+        {"LiterGrando", nullptr, &iLiterGrando, nullptr, 11, minimumaGrando, maksimumaGrando},
+        {"LiterGrandoEo", nullptr, &iLiterGrandoEo, nullptr, 11, minimumaGrando, maksimumaGrando},
         {"FenestraStilo", nullptr, &iFenestraStilo, nullptr, 0},
     };
 }
@@ -190,15 +204,22 @@ QFrame* lernilo::leciono(int numero) const
     return numero >= 1 && numero <= KiomDaLecionoj ? lecionoj[numero - 1] : nullptr;
 }
 
-void lernilo::komencakonfiguro()
+void lernilo::legasAgordojn()
 {
     inidosiero dosiero(agordoVojo());
     dosiero.beginGroup(QStringLiteral("Gxenerala"));
     for (const Agordo& a : agordoj())
         a.legas(dosiero);
     dosiero.endGroup();
+    if (LastaPagxo >= lecionfonto::kiomDaPaghoj(LastaLeciono))
+        LastaPagxo = 0;   // a page the lesson does not have: its first one
     if (!sekuraDosierNomo(sTradukoDosiero))
         sTradukoDosiero.clear();   // a damaged setting: choose the language anew
+}
+
+void lernilo::komencakonfiguro()
+{
+    legasAgordojn();
     // Fonts and style sheets before anything is polished, so that no widget
     // is styled twice; Konfiguru finds them set.
     Stilo();
@@ -623,6 +644,8 @@ void lernilo::ShanghasPaghon(QString pagho, QFrame* leciono)
             LastaPagxo = 0;
             langetoj->setCurrentIndex(0);
         } else {
+            if (LastaPagxo < 0 || LastaPagxo >= langetoj->count())
+                LastaPagxo = 0;
             langetoj->setCurrentIndex(LastaPagxo);
         }
         LastaLeciono = ui->Paghujo->currentIndex();

@@ -123,6 +123,9 @@ public:
     static bool listoMalnova(const QDate& naskigho, const QDate& hodiau);
     // The greeting's phrase for an hour of the day and two draws of 0 or 1.
     static QString salutoRadiko(int horo, int unuaHazardo, int duaHazardo);
+    // Reads group Gxenerala of the settings file into the globals, each value
+    // brought into its range; a file name that is not safe is dropped.
+    static void legasAgordojn();
     // The style of a sample text: the font and its scaled size.
     static QString specimenStilo(const QString& tiparo, int grando);
     // What listigas_trad does, into the list file at `vojo`.

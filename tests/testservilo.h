@@ -2,7 +2,8 @@
 #define TESTSERVILO_H
 
 // A small HTTP server on 127.0.0.1 for the download tests: each path has a
-// status, a body and a delay before the reply.
+// status, a body and a delay before the reply. A reply may also trickle one
+// byte at a time without end, or break off after part of its body.
 
 #include <QHash>
 #include <QPointer>
@@ -18,6 +19,8 @@ public:
         int stato = 200;
         QByteArray korpo;
         int prokrastoMs = 0;
+        int gutoMs = 0;        // > 0: no length, one byte every so often, for ever
+        int rompoPost = -1;    // >= 0: the whole length announced, this much sent
     };
 
     TestServilo()
@@ -52,14 +55,30 @@ private:
         petoj << vojo;
         const Respondo r = respondoj.value(vojo, {404, "<html>Not here</html>", 0});
         QPointer<QTcpSocket> ingo(s);
-        QTimer::singleShot(r.prokrastoMs, this, [ingo, r] {
+        QTimer::singleShot(r.prokrastoMs, this, [this, ingo, r] {
             if (!ingo)
                 return;
+            if (r.gutoMs > 0) {
+                ingo->write("HTTP/1.1 200 OK\r\nContent-Type: text/plain\r\nConnection: close\r\n\r\n[Traduko]\r\n");
+                gutas(ingo, r.gutoMs);
+                return;
+            }
             QByteArray teksto = "HTTP/1.1 " + QByteArray::number(r.stato)
                                 + (r.stato == 200 ? " OK" : " Error") + "\r\nContent-Type: text/plain\r\nContent-Length: "
-                                + QByteArray::number(r.korpo.size()) + "\r\nConnection: close\r\n\r\n" + r.korpo;
+                                + QByteArray::number(r.korpo.size()) + "\r\nConnection: close\r\n\r\n"
+                + (r.rompoPost >= 0 ? r.korpo.left(r.rompoPost) : r.korpo);
             ingo->write(teksto);
             ingo->disconnectFromHost();
+        });
+    }
+
+    void gutas(QPointer<QTcpSocket> ingo, int ms)
+    {
+        QTimer::singleShot(ms, this, [this, ingo, ms] {
+            if (ingo && ingo->state() == QAbstractSocket::ConnectedState) {
+                ingo->write("x");
+                gutas(ingo, ms);
+            }
         });
     }
 

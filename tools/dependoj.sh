@@ -14,6 +14,7 @@ fluidsynth timgm6mb-soundfont
 fonts-dejavu-core
 hunspell myspell-eo
 poppler-utils xvfb xauth
+clang libclang-rt-14-dev
 $*
 "
 

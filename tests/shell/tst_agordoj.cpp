@@ -24,6 +24,8 @@ private slots:
     void cleanup();
     void legasKajSkribasChiujn();
     void damaghitaDosiero();
+    void valorojEnLimoj_data();
+    void valorojEnLimoj();
     void aplikoEbligataKajMalebligata();
     void glitiloKajNombrujoSamtempe();
     void tiparojAtingasStilon();
@@ -106,8 +108,7 @@ void tst_agordoj::legasKajSkribasChiujn()
 
 void tst_agordoj::damaghitaDosiero()
 {
-    // Odd values: the course asks for the language again, and a resume point
-    // out of range does nothing.
+    // A file name that leads elsewhere: the course asks for the language again.
     QFile f(savasLoko + "lernilomelo.ini");
     QVERIFY(f.open(QIODevice::WriteOnly | QIODevice::Truncate));
     f.write("[Gxenerala]\nLiterGrando=abc\nLastaLeciono=99\nLastaPagxo=-5\n"
@@ -117,8 +118,6 @@ void tst_agordoj::damaghitaDosiero()
     malfermas();
     QCOMPARE(sTradukoDosiero, QStringLiteral("angla.trd"));
     QCOMPARE(iLiterGrando, 11);
-    trovas<QAbstractButton>("KieButono")->click();
-    QCOMPARE(trovas<QStackedWidget>("Paghujo")->currentIndex(), 0);
     delete fenestro;
     fenestro = nullptr;
 
@@ -131,6 +130,46 @@ void tst_agordoj::damaghitaDosiero()
     QCOMPARE(LastaLeciono, 1);
     QCOMPARE(iLiterGrandoEo, 11);
     QCOMPARE(sTiparo, QStringLiteral("DejaVu Sans"));
+}
+
+void tst_agordoj::valorojEnLimoj_data()
+{
+    QTest::addColumn<QByteArray>("linioj");
+    QTest::addColumn<QList<int>>("legitaj");   // LiterGrando, LiterGrandoEo, LastaLeciono, LastaPagxo
+    QTest::newRow("sizes 0 and -5, lesson 0") << QByteArray("LiterGrando=0\nLiterGrandoEo=-5\nLastaLeciono=0\n")
+                                              << QList<int>{9, 9, 1, 0};
+    QTest::newRow("sizes 2000 and abc, lesson 14")
+        << QByteArray("LiterGrando=2000\nLiterGrandoEo=abc\nLastaLeciono=14\nLastaPagxo=2\n") << QList<int>{16, 11, 13, 2};
+    QTest::newRow("lesson -1, page -3") << QByteArray("LiterGrando=12\nLastaLeciono=-1\nLastaPagxo=-3\n")
+                                        << QList<int>{12, 11, 1, 0};
+    QTest::newRow("page 99 of lesson 3") << QByteArray("LastaLeciono=3\nLastaPagxo=99\n") << QList<int>{11, 11, 3, 0};
+}
+
+void tst_agordoj::valorojEnLimoj()
+{
+    QFETCH(QByteArray, linioj);
+    QFETCH(QList<int>, legitaj);
+    QVERIFY(skribas("lernilomelo.ini", "[Gxenerala]\nLingvo=English\nDosiero=angla.trd\n" + linioj));
+    malfermas();
+    QCOMPARE((QList<int>{iLiterGrando, iLiterGrandoEo, LastaLeciono, LastaPagxo}), legitaj);
+    QCOMPARE(trovas<QSpinBox>("LiterGrando")->value(), iLiterGrando);
+    QCOMPARE(QApplication::font().pointSize(), ghustigas_tiparon(iLiterGrando));
+
+    // The resume point opens the lesson on the page it names, or on its first.
+    trovas<QAbstractButton>("KieButono")->click();
+    auto* langetoj = fenestro->leciono(legitaj.at(2))->findChild<QTabWidget*>();
+    QCOMPARE(trovas<QStackedWidget>("Paghujo")->currentIndex(), legitaj.at(2));
+    QCOMPARE(langetoj->currentIndex(), legitaj.at(3));
+
+    trovas<QAbstractButton>("Hejmo")->click();
+    lSxaltilo = false;
+    QCloseEvent fermo;
+    QApplication::sendEvent(fenestro, &fermo);
+    inidosiero skribita(agordoVojo());
+    skribita.beginGroup("Gxenerala");
+    QCOMPARE((QList<int>{skribita.value("LiterGrando").toInt(), skribita.value("LiterGrandoEo").toInt(),
+                         skribita.value("LastaLeciono").toInt(), skribita.value("LastaPagxo").toInt()}),
+             legitaj);
 }
 
 void tst_agordoj::aplikoEbligataKajMalebligata()

@@ -1,6 +1,6 @@
-// Fetching a file from the course's server: only a successful reply with a
-// body is stored, only inside the writable folder, and the end is always
-// signalled.
+// Fetching a file from the course's server: only a successful, complete
+// reply that reads as the file it claims to be is stored, only under a safe
+// name, never beyond a size or a deadline, and the end is always signalled.
 
 #include "filedownloader.h"
 #include "testaj_helpoj.h"
@@ -8,6 +8,8 @@
 
 #include <QSignalSpy>
 #include <QtTest>
+
+Q_DECLARE_METATYPE(TestServilo::Respondo)
 
 class tst_filedownloader : public QObject
 {
@@ -20,8 +22,10 @@ private slots:
     void eraraPaghoNeAnstatauas();
     void malrapidaRespondo();
     void senServilo();
-    void nomojEkster_data();
-    void nomojEkster();
+    void rifuzitajRespondoj_data();
+    void rifuzitajRespondoj();
+    void nomojNePetataj_data();
+    void nomojNePetataj();
 
 private:
     QByteArray legas(const QString& vojo);
@@ -95,7 +99,7 @@ void tst_filedownloader::eraraPaghoNeAnstatauas()
 void tst_filedownloader::malrapidaRespondo()
 {
     TestServilo::Respondo malrapida;
-    malrapida.korpo = "[Traduko]\r\n";
+    malrapida.korpo = "[Traduko]\r\nLingvoID=it\r\n";
     malrapida.prokrastoMs = 600;
     servilo->metas("/datumoj/tradukoj/itala.trd", malrapida);
     FileDownloader e(QUrl(servilo->adreso() + "/datumoj/tradukoj/itala.trd"), "itala.trd");
@@ -104,7 +108,7 @@ void tst_filedownloader::malrapidaRespondo()
     QTest::qWait(200);
     QCOMPARE(fino.count(), 0);
     QVERIFY(fino.wait(10000));
-    QCOMPARE(legas(savasLoko + "itala.trd"), QByteArray("[Traduko]\r\n"));
+    QCOMPARE(legas(savasLoko + "itala.trd"), QByteArray("[Traduko]\r\nLingvoID=it\r\n"));
 }
 
 void tst_filedownloader::senServilo()
@@ -114,24 +118,65 @@ void tst_filedownloader::senServilo()
     QVERIFY(!QFile::exists(savasLoko + "traduklisto.ini"));
 }
 
-void tst_filedownloader::nomojEkster_data()
+void tst_filedownloader::rifuzitajRespondoj_data()
+{
+    QTest::addColumn<TestServilo::Respondo>("respondo");
+    const QByteArray bona = "[Traduko]\r\nLingvoID=de\r\nDato=01.01.2030\r\n\r\n[Menuo]\r\nKioEstas=Neu\r\n";
+    TestServilo::Respondo r;
+    r.korpo = "<html><body>Please log in to the network</body></html>";
+    QTest::newRow("a login page with status 200") << r;
+    r.korpo = "[Menuo]\r\nKioEstas=Neu\r\n";
+    QTest::newRow("no header") << r;
+    r.korpo = bona + QByteArray(FileDownloader::maksimumo, 'x');
+    QTest::newRow("over the size limit") << r;
+    r.korpo = bona + QByteArray(200000, 'x');
+    r.rompoPost = 100000;
+    QTest::newRow("cut off halfway") << r;
+    r = TestServilo::Respondo();
+    r.gutoMs = 20;
+    QTest::newRow("trickling without end") << r;
+}
+
+void tst_filedownloader::rifuzitajRespondoj()
+{
+    QFETCH(TestServilo::Respondo, respondo);
+    const int antaua = FileDownloader::templimoMs;
+    FileDownloader::templimoMs = 1500;
+    const QByteArray malnova = "[Traduko]\r\nLingvoID=de\r\n";
+    QVERIFY(skribas("germana.trd", malnova));
+    servilo->metas("/datumoj/tradukoj/germana.trd", respondo);
+    QElapsedTimer tempo;
+    tempo.start();
+    FileDownloader e(QUrl(servilo->adreso() + "/datumoj/tradukoj/germana.trd"), "germana.trd");
+    const bool finita = atendas(e, 10000);
+    FileDownloader::templimoMs = antaua;
+    QVERIFY(finita);
+    QVERIFY(tempo.elapsed() < 5000);
+    QCOMPARE(legas(savasLoko + "germana.trd"), malnova);
+    QCOMPARE(QDir(savasLoko).entryList(QDir::Files), QStringList("germana.trd"));
+}
+
+void tst_filedownloader::nomojNePetataj_data()
 {
     QTest::addColumn<QString>("nomo");
-    QTest::newRow("parent folder") << "../evil.trd";
-    QTest::newRow("sub-folder") << "sub/evil.trd";
-    QTest::newRow("absolute") << "/tmp/evil.trd";
+    QTest::newRow("the settings file") << "lernilomelo.ini";
+    QTest::newRow("parent folder") << "../x.trd";
+    QTest::newRow("sub-folder") << "sub/x.trd";
+    QTest::newRow("absolute") << "/tmp/x.trd";
+    QTest::newRow("another ending") << "x.trd.exe";
     QTest::newRow("empty") << "";
 }
 
-void tst_filedownloader::nomojEkster()
+void tst_filedownloader::nomojNePetataj()
 {
     QFETCH(QString, nomo);
-    servilo->metas("/datumoj/tradukoj/evil.trd", "[Traduko]\r\n");
-    FileDownloader e(QUrl(servilo->adreso() + "/datumoj/tradukoj/evil.trd"), nomo);
+    QVERIFY(skribas("lernilomelo.ini", "[Gxenerala]\r\nLingvo=x\r\n"));
+    servilo->metas("/datumoj/tradukoj/" + nomo, "[Traduko]\r\nLingvoID=xx\r\n\r\n[0]\r\nLingvoID=xx\r\n");
+    FileDownloader e(QUrl(servilo->adreso() + "/datumoj/tradukoj/" + nomo), nomo);
     QVERIFY(atendas(e));
-    QVERIFY(!QFile::exists(ujo->path() + "/evil.trd"));
-    QVERIFY(!QFile::exists("/tmp/evil.trd"));
-    QCOMPARE(QDir(savasLoko).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+    QCOMPARE(servilo->petoj, QStringList());
+    QCOMPARE(legas(savasLoko + "lernilomelo.ini"), QByteArray("[Gxenerala]\r\nLingvo=x\r\n"));
+    QCOMPARE(QDir(ujo->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList() << "media" << "skribebla");
 }
 
 QTEST_MAIN(tst_filedownloader)

@@ -22,6 +22,9 @@
 #include <QVBoxLayout>
 #include <QtTest>
 
+#include <csignal>
+#include <sys/resource.h>
+
 namespace {
 
 // A lesson frame "lecNN" with its tab widget and written pages built by hand,
@@ -81,6 +84,7 @@ private slots:
     void korektojMontrataj();
     void respondojKonservataj();
     void nemalfermitaLecionoRestas();
+    void plenaDiskoLasasDosieron();
     void sendadoDePagho();
     void sendadoDeFinaEkzameno();
 
@@ -168,6 +172,35 @@ void tst_skribajhoj::nemalfermitaLecionoRestas()
     inidosiero agordoj(agordoVojo());
     QCOMPARE(agordoj.value("Lec05/lineEdit").toString(), QString::fromUtf8("Ŝi kantas."));
     QVERIFY(agordoj.childGroups().contains("Lec01"));
+}
+
+void tst_skribajhoj::plenaDiskoLasasDosieron()
+{
+    // A disk that fills while the course closes: the file it had stays whole.
+    inidosiero(agordoVojo()).setValue("Lec05/lineEdit", QString::fromUtf8("Ŝi kantas."));
+    QFile dosiero(agordoVojo());
+    QVERIFY(dosiero.open(QIODevice::ReadOnly));
+    const QByteArray antaue = dosiero.readAll();
+    dosiero.close();
+
+    lernilo fenestro;
+    lSxaltilo = false;
+    fenestro.findChild<QAbstractButton*>("Leciono2")->click();
+    fenestro.leciono(2)->findChild<QLineEdit*>("lineEdit")->setText(QString(2000, 'a'));
+    fenestro.findChild<QAbstractButton*>("Hejmo")->click();
+
+    rlimit limo;
+    getrlimit(RLIMIT_FSIZE, &limo);
+    const rlimit malgranda = {rlim_t(antaue.size()), limo.rlim_max};
+    const auto signalo = std::signal(SIGXFSZ, SIG_IGN);
+    setrlimit(RLIMIT_FSIZE, &malgranda);
+    QCloseEvent fermo;
+    QApplication::sendEvent(&fenestro, &fermo);
+    setrlimit(RLIMIT_FSIZE, &limo);
+    std::signal(SIGXFSZ, signalo);
+
+    QVERIFY(dosiero.open(QIODevice::ReadOnly));
+    QCOMPARE(dosiero.readAll(), antaue);
 }
 
 void tst_skribajhoj::sendadoDePagho()
