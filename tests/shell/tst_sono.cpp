@@ -29,7 +29,6 @@ private slots:
 private:
     QString ludata() const;
     void faras(const QString& nomo);
-    QString fermasSkatolon(std::function<void()> ago);
 
     QTemporaryDir* ujo = nullptr;
     lernilo* fenestro = nullptr;
@@ -138,19 +137,6 @@ void tst_sono::jesPauzoNurKunNotoj()
     QVERIFY(!ludata().startsWith("sonoj/noteto"));
 }
 
-QString tst_sono::fermasSkatolon(std::function<void()> ago)
-{
-    QString teksto;
-    QTimer::singleShot(0, [&teksto] {
-        if (auto* skatolo = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            teksto = skatolo->text();
-            skatolo->accept();
-        }
-    });
-    ago();
-    return teksto;
-}
-
 void tst_sono::mesagxo_data()
 {
     QTest::addColumn<int>("eraroj");
@@ -179,7 +165,10 @@ void tst_sono::mesagxo()
     smDenove = "D";
     lSxaltilo = parolo;
     lNoteto = notoj;
-    QCOMPARE(fermasSkatolon([=] { Mesagxo(eraroj, sukcesoj); }), teksto);
+    QString skatolo;
+    akceptasMesaghon(&skatolo);
+    Mesagxo(eraroj, sukcesoj);
+    QCOMPARE(skatolo, teksto);
     if (sono.isEmpty())
         QCOMPARE(ludata(), QString());
     else
