@@ -137,6 +137,7 @@ void tst_frazokonstruo::ghustaFrazo()
     QCOMPARE(placar(l.e, 2), 1);
     QCOMPARE(placar(l.e, 4), 100);
     QVERIFY(montritaj(l.e, "Vortoj").isEmpty());   // the next sentence
+    QCOMPARE(l.e->uzitaj.count(true), 1);   // and never the one done
     QVERIFY(butono(l.e, "BitBtn2")->isEnabled() && butono(l.e, "BitBtn3")->isEnabled());
 }
 
