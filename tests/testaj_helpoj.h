@@ -127,6 +127,14 @@ inline void akceptasMesaghon(QString* teksto = nullptr)
     });
 }
 
+// Shows a window and makes it the active one, as keys and sounds need.
+inline bool aktivigas(QWidget* w)
+{
+    w->show();
+    w->activateWindow();
+    return QTest::qWaitForWindowActive(w);
+}
+
 // A lesson's exercise as the learner opens it: on its page, the window
 // active (keys reach only the active window), and started.
 template <typename Ekzerco, typename Fenestro>
@@ -136,9 +144,7 @@ Ekzerco* komencasEkzercon(Fenestro& fenestro, int leciono, const char* nomo)
     QWidget* pagho = fenestro.leciono(leciono);
     auto* e = pagho->findChild<Ekzerco*>(QLatin1String(nomo));
     pagho->findChild<QTabWidget*>()->setCurrentWidget(e->parentWidget());
-    fenestro.show();
-    fenestro.activateWindow();
-    if (!QTest::qWaitForWindowActive(&fenestro))
+    if (!aktivigas(&fenestro))
         qWarning("the window did not become active");
     lNoteto = false;   // the window has read them from the settings
     lSxaltilo = false;

@@ -115,9 +115,7 @@ void tst_ekznumeraloj::nombroj()
 void tst_ekznumeraloj::perKlavaro()
 {
     lernilo fenestro;
-    fenestro.show();
-    fenestro.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&fenestro));
+    QVERIFY(aktivigas(&fenestro));
     lNoteto = false;
     lSxaltilo = false;
     butono(&fenestro, "Leciono3")->click();

@@ -102,8 +102,7 @@ void tst_vortoludo::initTestCase()
 
 void tst_vortoludo::init()
 {
-    fenestro->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(fenestro));
+    QVERIFY(aktivigas(fenestro));
     ekz = malfermas(1, "Lec01_0103");
     if (butono("BitBtn20")->isEnabled())
         butono("BitBtn20")->click();   // what a failed test left running

@@ -45,9 +45,7 @@ void tst_klakbutono_nova::premoLudas()
     QTemporaryDir ujo;
     preparasLerninton(ujo);
     lernilo fenestro;
-    fenestro.show();
-    fenestro.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&fenestro));
+    QVERIFY(aktivigas(&fenestro));
 
     auto* vorto = new klakbutono_nova(&fenestro);
     vorto->setObjectName("Lec04_Button5");

@@ -51,9 +51,7 @@ void tst_lernilo::init()
     preparasLerninton(*ujo);
     fenestro = new lernilo;
     // The resume point follows the pages only while the main window is active.
-    fenestro->show();
-    fenestro->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(fenestro));
+    QVERIFY(aktivigas(fenestro));
 }
 
 void tst_lernilo::cleanup()
@@ -185,9 +183,7 @@ void tst_lernilo::aliaFenestroNeShovasRekomencon()
     QCOMPARE(LastaPagxo, 3);
 
     QWidget alia;
-    alia.show();
-    alia.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&alia));
+    QVERIFY(aktivigas(&alia));
     langetoj(2)->setCurrentIndex(5);
     QCOMPARE(LastaPagxo, 3);
     // The page is laid out all the same.

@@ -64,16 +64,12 @@ void tst_sono::initTestCase()
 
     fenestro = new lernilo;
     iMsEnSekundo = 250;   // a pause of two seconds is half a second
-    fenestro->show();
-    fenestro->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(fenestro));
 }
 
 void tst_sono::init()
 {
     // A closed message box leaves no window active on the test platform.
-    fenestro->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(fenestro));
+    QVERIFY(aktivigas(fenestro));
     lSxaltilo = true;
     lNoteto = false;
     fenestro->ludilo->setMedia(QMediaContent());
@@ -182,9 +178,7 @@ void tst_sono::mp3MinuskligasKajSilentasSenFokuso()
 
     fenestro->ludilo->setMedia(QMediaContent());
     QWidget alia;
-    alia.show();
-    alia.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&alia));
+    QVERIFY(aktivigas(&alia));
     mp3("sonoj/lec01/viro.oga");
     QCOMPARE(ludata(), QString());
     // The praise is still chosen, and the pause still taken.
@@ -194,8 +188,7 @@ void tst_sono::mp3MinuskligasKajSilentasSenFokuso()
     Jes();
     QVERIFY(t.elapsed() >= 2 * iMsEnSekundo);
     QCOMPARE(ludata(), QString());
-    fenestro->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(fenestro));
+    QVERIFY(aktivigas(fenestro));
 }
 
 QTEST_MAIN(tst_sono)
