@@ -17,7 +17,9 @@
 #include <QTimer>
 #include <QFile>
 #include <QSettings>
+#include <QTabWidget>
 #include <QTemporaryDir>
+#include <QTest>
 
 // Points the program's folders at a fresh temporary folder, as main() would
 // on Linux, so that no test reads or writes the user's own files.
@@ -123,6 +125,31 @@ inline void akceptasMesaghon(QString* teksto = nullptr)
             akceptasMesaghon(teksto);
         }
     });
+}
+
+// Shows a window and makes it the active one, as keys and sounds need.
+inline bool aktivigas(QWidget* w)
+{
+    w->show();
+    w->activateWindow();
+    return QTest::qWaitForWindowActive(w);
+}
+
+// A lesson's exercise as the learner opens it: on its page, the window
+// active (keys reach only the active window), and started.
+template <typename Ekzerco, typename Fenestro>
+Ekzerco* komencasEkzercon(Fenestro& fenestro, int leciono, const char* nomo)
+{
+    fenestro.template findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(leciono))->click();
+    QWidget* pagho = fenestro.leciono(leciono);
+    auto* e = pagho->findChild<Ekzerco*>(QLatin1String(nomo));
+    pagho->findChild<QTabWidget*>()->setCurrentWidget(e->parentWidget());
+    if (!aktivigas(&fenestro))
+        qWarning("the window did not become active");
+    lNoteto = false;   // the window has read them from the settings
+    lSxaltilo = false;
+    QTest::mouseClick(e->template findChild<QAbstractButton*>(QStringLiteral("BitBtn1")), Qt::LeftButton);
+    return e;
 }
 
 #endif

@@ -94,8 +94,7 @@ void tst_audkompreno::initTestCase()
 
 void tst_audkompreno::init()
 {
-    fenestro->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(fenestro));
+    QVERIFY(aktivigas(fenestro));
     lCxapeligo = true;
 }
 

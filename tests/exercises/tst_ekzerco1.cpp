@@ -117,8 +117,7 @@ void tst_ekzerco1::initTestCase()
 void tst_ekzerco1::init()
 {
     // A closed message box leaves no window active, and mp3 then stays silent.
-    fenestro->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(fenestro));
+    QVERIFY(aktivigas(fenestro));
     if (butono("BitBtn2")->isEnabled())
         butono("BitBtn2")->click();   // left running by a failed test
 }

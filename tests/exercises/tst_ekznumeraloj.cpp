@@ -7,8 +7,6 @@
 
 #include <QLabel>
 #include <QLineEdit>
-#include <QPrintDialog>
-#include <QProcess>
 #include <QPushButton>
 #include <QSet>
 #include <QSpinBox>
@@ -28,23 +26,10 @@ void tajpas(QWidget* e, const QString& teksto)
     QTest::keyClick(kampo(e), Qt::Key_Return);
 }
 
-// Lesson 3 as the learner opens it, on the page of the exercise, started.
 struct Leciono3
 {
     lernilo fenestro;
-    ekznumeraloj* e;
-    Leciono3()
-    {
-        butono(&fenestro, "Leciono3")->click();
-        e = fenestro.leciono(3)->findChild<ekznumeraloj*>(QStringLiteral("Lec03_Ekz_0301"));
-        fenestro.leciono(3)->findChild<QTabWidget*>()->setCurrentWidget(e->parentWidget());
-        fenestro.show();
-        fenestro.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&fenestro));
-        lNoteto = false;   // the window has read them from the settings
-        lSxaltilo = false;
-        QTest::mouseClick(butono(e, "BitBtn1"), Qt::LeftButton);
-    }
+    ekznumeraloj* e = komencasEkzercon<ekznumeraloj>(fenestro, 3, "Lec03_Ekz_0301");
 };
 
 } // namespace
@@ -130,9 +115,7 @@ void tst_ekznumeraloj::nombroj()
 void tst_ekznumeraloj::perKlavaro()
 {
     lernilo fenestro;
-    fenestro.show();
-    fenestro.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&fenestro));
+    QVERIFY(aktivigas(&fenestro));
     lNoteto = false;
     lSxaltilo = false;
     butono(&fenestro, "Leciono3")->click();
@@ -190,21 +173,13 @@ void tst_ekznumeraloj::presado()
     Leciono3 l;
     QVERIFY(!butono(l.e, "printilo_ps")->isHidden());
     const QString demando = teksto(l.e, "Vorto0");
-    const QString pdf = ujo->path() + "/numeroj.pdf";
-    QTimer::singleShot(50, [pdf] {
-        auto* dialogo = qobject_cast<QPrintDialog*>(QApplication::activeModalWidget());
-        QVERIFY(dialogo);
-        dialogo->findChild<QLineEdit*>("filename")->setText(pdf);
-        dialogo->accept();
-    });
+    const QString dosiero = ujo->path() + "/numeroj.pdf";
+    presasAlPdf(dosiero);
     QTest::mouseClick(butono(l.e, "printilo_ps"), Qt::LeftButton);
     QCOMPARE(teksto(l.e, "Vorto0"), demando);
     QCOMPARE(placar(l.e, 1), 24);
 
-    QProcess teksto;
-    teksto.start("pdftotext", {pdf, "-"});
-    QVERIFY(teksto.waitForFinished(20000));
-    const QString enhavo = QString::fromUtf8(teksto.readAllStandardOutput()).simplified();
+    const QString enhavo = pdf("pdftotext", dosiero).simplified();
     QVERIFY2(enhavo.contains("Lernilo - Lec03_Ekz_0301"), qPrintable(enhavo));
     QVERIFY(enhavo.contains("Numbers exercise"));
     QVERIFY(enhavo.contains("1. dudek : ____________ 2. dudek tri : ____________"));

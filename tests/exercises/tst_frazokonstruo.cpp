@@ -44,23 +44,10 @@ void konstruas(QWidget* e, const QStringList& vortoj)
         klakas(e, "Disponeblaj", v);
 }
 
-// Lesson 1 as the learner opens it, on the page of the exercise, started.
 struct Leciono1
 {
     lernilo fenestro;
-    frazokonstruo* e;
-    Leciono1()
-    {
-        butono(&fenestro, "Leciono1")->click();
-        e = fenestro.leciono(1)->findChild<frazokonstruo*>(QStringLiteral("Lec01_Ekz_Frazo_0107"));
-        fenestro.leciono(1)->findChild<QTabWidget*>()->setCurrentWidget(e->parentWidget());
-        fenestro.show();
-        fenestro.activateWindow();   // keys reach only the active window
-        QVERIFY(QTest::qWaitForWindowActive(&fenestro));
-        lNoteto = false;   // the window has read them from the settings
-        lSxaltilo = false;
-        QTest::mouseClick(butono(e, "BitBtn1"), Qt::LeftButton);
-    }
+    frazokonstruo* e = komencasEkzercon<frazokonstruo>(fenestro, 1, "Lec01_Ekz_Frazo_0107");
 };
 
 // The exercise on a tab, its sentences on another: sentence i has n words.
@@ -150,6 +137,7 @@ void tst_frazokonstruo::ghustaFrazo()
     QCOMPARE(placar(l.e, 2), 1);
     QCOMPARE(placar(l.e, 4), 100);
     QVERIFY(montritaj(l.e, "Vortoj").isEmpty());   // the next sentence
+    QCOMPARE(l.e->uzitaj.count(true), 1);   // and never the one done
     QVERIFY(butono(l.e, "BitBtn2")->isEnabled() && butono(l.e, "BitBtn3")->isEnabled());
 }
 

@@ -1,17 +1,13 @@
-// The clock of lesson 11 driven through the lesson's own exercise. Until the
-// lesson's data is part of the course, the test brings fourteen times of its
-// own in the same place; the cases that need a given answer set it.
+// The clock of lesson 11 driven through the lesson's own exercise; the cases
+// that need a given answer set it.
 
 #include "kiomahoro.h"
 #include "lernilo.h"
 #include "testaj_helpoj.h"
 
 #include <QLabel>
-#include <QLibraryInfo>
 #include <QLineEdit>
-#include <QProcess>
 #include <QPushButton>
-#include <QResource>
 #include <QSet>
 #include <QSpinBox>
 #include <QTabWidget>
@@ -24,60 +20,10 @@ QLineEdit* kampo(QWidget* e) { return e->findChild<QLineEdit*>(QStringLiteral("E
 QString teksto(QWidget* e, const char* nomo) { return e->findChild<QLabel*>(QLatin1String(nomo))->text(); }
 int placar(QWidget* e, int n) { return e->findChild<QSpinBox*>(QStringLiteral("Placar%1").arg(n))->value(); }
 
-const char* const horoj[][2] = {
-    {"La dua kaj dudek posttagmeze", "14:20"}, {"Noktomezo", "24:00"},
-    {"Tagmezo", "12:00"}, {"La sesa kaj tridek tri matene", "06:33"},
-    {"La oka kaj kvarono matene", "08:15"}, {"La naŭa kaj duono vespere", "21:30"},
-    {"La tria kaj kvindek kvin posttagmeze", "15:55"}, {"La unua kaj kvin nokte", "01:05"},
-    {"La sepa matene", "07:00"}, {"La deka kaj dek du antaŭtagmeze", "10:12"},
-    {"La kvina kaj tri kvaronoj posttagmeze", "17:45"}, {"La dek-unua kaj kvardek vespere", "23:40"},
-    {"La kvara kaj dudek ok nokte", "04:28"}, {"La dek-dua kaj unu tagmeze", "12:01"}};
-
-// Puts fourteen times where the lesson's data goes, as a resource bundle
-// made by Qt's own compiler, unless the course has its data already.
-bool donasDatumojn(const QTemporaryDir& ujo)
-{
-    if (QFile::exists(QStringLiteral(":/ekzercoj/ekz11.dat")))
-        return true;
-    QFile dat(ujo.filePath(QStringLiteral("ekz11.dat")));
-    if (!dat.open(QIODevice::WriteOnly))
-        return false;
-    QByteArray d = "[1101D]\r\n", r = "[1101R]\r\n";
-    for (int i = 0; i < 14; ++i) {
-        d += QByteArray::number(i) + '=' + horoj[i][0] + "\r\n";
-        r += QByteArray::number(i) + '=' + horoj[i][1] + "\r\n";
-    }
-    dat.write(d + "\r\n" + r);
-    dat.close();
-    QFile qrc(ujo.filePath(QStringLiteral("ekz11.qrc")));
-    if (!qrc.open(QIODevice::WriteOnly))
-        return false;
-    qrc.write("<RCC><qresource prefix=\"/\"><file alias=\"ekzercoj/ekz11.dat\">ekz11.dat</file></qresource></RCC>");
-    qrc.close();
-    const QString rcc = QLibraryInfo::location(QLibraryInfo::BinariesPath) + QStringLiteral("/rcc");
-    const QString pako = ujo.filePath(QStringLiteral("ekz11.rcc"));
-    if (QProcess::execute(rcc, {QStringLiteral("-binary"), qrc.fileName(), QStringLiteral("-o"), pako}) != 0)
-        return false;
-    return QResource::registerResource(pako);
-}
-
-// Lesson 11 as the learner opens it, on the page of the exercise, started.
 struct Leciono11
 {
     lernilo fenestro;
-    kiomahoro* e;
-    Leciono11()
-    {
-        butono(&fenestro, "Leciono11")->click();
-        e = fenestro.leciono(11)->findChild<kiomahoro*>(QStringLiteral("Lec11_Ekzerco_Horo"));
-        fenestro.leciono(11)->findChild<QTabWidget*>()->setCurrentWidget(e->parentWidget());
-        fenestro.show();
-        fenestro.activateWindow();
-        QVERIFY(QTest::qWaitForWindowActive(&fenestro));
-        lNoteto = false;   // the window has read them from the settings
-        lSxaltilo = false;
-        QTest::mouseClick(butono(e, "BitBtn1"), Qt::LeftButton);
-    }
+    kiomahoro* e = komencasEkzercon<kiomahoro>(fenestro, 11, "Lec11_Ekzerco_Horo");
 };
 
 } // namespace
@@ -87,7 +33,6 @@ class tst_kiomahoro : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase() { QVERIFY(donasDatumojn(datumujo)); }
     void init();
     void cleanup() { delete ujo; }
     void horoj_data();
@@ -96,7 +41,6 @@ private slots:
     void folioDekstreMaldekstren();
 
 private:
-    QTemporaryDir datumujo;
     QTemporaryDir* ujo = nullptr;
 };
 

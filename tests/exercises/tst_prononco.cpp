@@ -74,8 +74,7 @@ void tst_prononco::initTestCase()
 
 void tst_prononco::init()
 {
-    fenestro->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(fenestro));
+    QVERIFY(aktivigas(fenestro));
     ekz->findChild<QSpinBox*>("spinBox")->setValue(2);
     fenestro->ludilo->setMedia(QMediaContent());
     if (butono("PP_Haltu")->isEnabled())

@@ -79,9 +79,7 @@ void tst_klakbutono_nova::premoLudas()
     QTemporaryDir ujo;
     preparasLerninton(ujo);
     lernilo fenestro;
-    fenestro.show();
-    fenestro.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&fenestro));
+    QVERIFY(aktivigas(&fenestro));
 
     QScrollArea* rulumo = nullptr;
     klakbutono_nova* vorto = vortoEnRulumo(&fenestro, rulumo);

@@ -29,7 +29,6 @@ private slots:
 private:
     QString ludata() const;
     void faras(const QString& nomo);
-    QString fermasSkatolon(std::function<void()> ago);
 
     QTemporaryDir* ujo = nullptr;
     lernilo* fenestro = nullptr;
@@ -65,16 +64,12 @@ void tst_sono::initTestCase()
 
     fenestro = new lernilo;
     iMsEnSekundo = 250;   // a pause of two seconds is half a second
-    fenestro->show();
-    fenestro->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(fenestro));
 }
 
 void tst_sono::init()
 {
     // A closed message box leaves no window active on the test platform.
-    fenestro->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(fenestro));
+    QVERIFY(aktivigas(fenestro));
     lSxaltilo = true;
     lNoteto = false;
     fenestro->ludilo->setMedia(QMediaContent());
@@ -138,19 +133,6 @@ void tst_sono::jesPauzoNurKunNotoj()
     QVERIFY(!ludata().startsWith("sonoj/noteto"));
 }
 
-QString tst_sono::fermasSkatolon(std::function<void()> ago)
-{
-    QString teksto;
-    QTimer::singleShot(0, [&teksto] {
-        if (auto* skatolo = qobject_cast<QMessageBox*>(QApplication::activeModalWidget())) {
-            teksto = skatolo->text();
-            skatolo->accept();
-        }
-    });
-    ago();
-    return teksto;
-}
-
 void tst_sono::mesagxo_data()
 {
     QTest::addColumn<int>("eraroj");
@@ -179,7 +161,10 @@ void tst_sono::mesagxo()
     smDenove = "D";
     lSxaltilo = parolo;
     lNoteto = notoj;
-    QCOMPARE(fermasSkatolon([=] { Mesagxo(eraroj, sukcesoj); }), teksto);
+    QString skatolo;
+    akceptasMesaghon(&skatolo);
+    Mesagxo(eraroj, sukcesoj);
+    QCOMPARE(skatolo, teksto);
     if (sono.isEmpty())
         QCOMPARE(ludata(), QString());
     else
@@ -193,9 +178,7 @@ void tst_sono::mp3MinuskligasKajSilentasSenFokuso()
 
     fenestro->ludilo->setMedia(QMediaContent());
     QWidget alia;
-    alia.show();
-    alia.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&alia));
+    QVERIFY(aktivigas(&alia));
     mp3("sonoj/lec01/viro.oga");
     QCOMPARE(ludata(), QString());
     // The praise is still chosen, and the pause still taken.
@@ -205,8 +188,7 @@ void tst_sono::mp3MinuskligasKajSilentasSenFokuso()
     Jes();
     QVERIFY(t.elapsed() >= 2 * iMsEnSekundo);
     QCOMPARE(ludata(), QString());
-    fenestro->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(fenestro));
+    QVERIFY(aktivigas(fenestro));
 }
 
 QTEST_MAIN(tst_sono)
