@@ -1,18 +1,36 @@
 #include "filedownloader.h"
 #include "funkcioj.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QNetworkReply>
 #include <QNetworkRequest>
+#include <QPointer>
+
+namespace {
+
+// A manager of its own would cost each download a new network thread and
+// set-up; the one manager lives as long as the application.
+QNetworkAccessManager& komunaReto()
+{
+    static QPointer<QNetworkAccessManager> reto;
+    if (!reto)
+        reto = new QNetworkAccessManager(QCoreApplication::instance());
+    return *reto;
+}
+
+} // namespace
 
 FileDownloader::FileDownloader(QUrl url, QString dosierNomo, QObject* parent)
-    : QObject(parent), dosierNomo(dosierNomo)
+    : QObject(parent), reto(komunaReto()), dosierNomo(dosierNomo)
 {
-    connect(&reto, &QNetworkAccessManager::finished, this, &FileDownloader::fileDownloaded);
     QNetworkRequest peto(url);
     peto.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("LerniloAndrojdo"));
     peto.setTransferTimeout(atendoMs);   // a silent server must not keep the learner waiting
-    reto.get(peto);
+    // The reply is this download's own: it ends with the downloader.
+    QNetworkReply* respondo = reto.get(peto);
+    respondo->setParent(this);
+    connect(respondo, &QNetworkReply::finished, this, [this, respondo] { fileDownloaded(respondo); });
 }
 
 void FileDownloader::fileDownloaded(QNetworkReply* respondo)

@@ -29,7 +29,7 @@ private slots:
     void fileDownloaded(QNetworkReply* respondo);
 
 private:
-    QNetworkAccessManager reto;
+    QNetworkAccessManager& reto;   // one for all the program's downloads
     QByteArray datumoj;
     QString dosierNomo;
 };
