@@ -221,26 +221,39 @@ QHash<QString, QHash<QString, QString>> legasGrupojn(const QString& vojo, const 
     if (!dosiero.open(QIODevice::ReadOnly))
         return rezulto;
     const QByteArray d = dosiero.readAll();
-    // Straight to each line that opens a wanted group, and from there to the
-    // next group: the rest of the file is never looked at. A group that
-    // stands twice is read twice, the later value winning, as in QSettings.
-    for (const QString& grupo : grupoj) {
-        const QByteArray linio = '[' + fermasNomon(grupo) + ']';
-        for (int de = d.indexOf(linio); de >= 0; de = d.indexOf(linio, de + 1)) {
-            if (de > 0 && d.at(de - 1) != '\n' && d.at(de - 1) != '\r')
-                continue;
-            QHash<QString, QString>& shlosiloj = rezulto[grupo];
-            int i = de;
-            Linio l;
-            legasLinion(d, i, l);   // the group's own line
-            while (legasLinion(d, i, l) && d.at(l.komenco) != '[') {
-                if (l.egaleco < 0)
-                    continue;
-                int shlosFino = l.egaleco;
-                while (shlosFino > l.komenco && (d.at(shlosFino - 1) == ' ' || d.at(shlosFino - 1) == '\t'))
-                    --shlosFino;
-                shlosiloj.insert(malfermasNomon(d, l.komenco, shlosFino), malfermasValoron(d, l.egaleco + 1, l.fino));
+    QHash<QByteArray, QString> serchataj;
+    for (const QString& grupo : grupoj)
+        serchataj.insert(fermasNomon(grupo), grupo);
+    // From group line to group line, reading only the wanted groups, and
+    // done when the last of them has been read: the header and the main
+    // window's groups stand near the top, the lessons' bulk below them. A
+    // group is read where it first stands (QSettings would also merge in a
+    // second copy, which no file written by QSettings has).
+    for (int de = d.indexOf('['); de >= 0 && !serchataj.isEmpty();) {
+        if (de > 0 && d.at(de - 1) != '\n' && d.at(de - 1) != '\r') {
+            de = d.indexOf('[', de + 1);
+            continue;
+        }
+        int i = de;
+        Linio l;
+        legasLinion(d, i, l);   // the group's own line
+        int fino = d.indexOf(']', l.komenco);
+        if (fino < 0 || fino >= l.fino)
+            fino = l.fino;
+        const QString grupo = serchataj.take(d.mid(l.komenco + 1, fino - l.komenco - 1).trimmed());
+        QHash<QString, QString>* shlosiloj = grupo.isEmpty() ? nullptr : &rezulto[grupo];
+        de = -1;
+        while (legasLinion(d, i, l)) {
+            if (d.at(l.komenco) == '[') {
+                de = l.komenco;
+                break;
             }
+            if (!shlosiloj || l.egaleco < 0)
+                continue;
+            int shlosFino = l.egaleco;
+            while (shlosFino > l.komenco && (d.at(shlosFino - 1) == ' ' || d.at(shlosFino - 1) == '\t'))
+                --shlosFino;
+            shlosiloj->insert(malfermasNomon(d, l.komenco, shlosFino), malfermasValoron(d, l.egaleco + 1, l.fino));
         }
     }
     return rezulto;

@@ -53,8 +53,7 @@ void tst_lingvovicoj::samaKielQSettings_data()
             "Eliri=the later one\n"
             "Nenio\n"
             "[Traduko]\r\nLingvo=Lingvo \\x107 \\101 \\t end\r\nLingvoID= \"xx\" \r\nDato=@@at\r\nTradukinto=@String(nomo)\r\n"
-            "[Konfig]\nLabel1=[Traduko] inside a value\n"
-            "[Traduko]\nDato=stands twice\n");
+            "[Konfig]\nLabel1=[Traduko] inside a value\n");
     f.close();
     QTest::newRow("awkward corners") << vojo;
 }
