@@ -22,6 +22,7 @@ private slots:
     void senServilo();
     void nomojEkster_data();
     void nomojEkster();
+    void duSamtempe();
 
 private:
     QByteArray legas(const QString& vojo);
@@ -132,6 +133,22 @@ void tst_filedownloader::nomojEkster()
     QVERIFY(!QFile::exists(ujo->path() + "/evil.trd"));
     QVERIFY(!QFile::exists("/tmp/evil.trd"));
     QCOMPARE(QDir(savasLoko).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+}
+
+// Two transfers at once, as a change of language during the weekly list
+// fetch makes them: each ends once, with its own file.
+void tst_filedownloader::duSamtempe()
+{
+    servilo->metas("/datumoj/traduklisto.ini", "[0]\r\nLingvoID=en\r\n");
+    servilo->metas("/datumoj/tradukoj/angla.trd", "[Traduko]\r\nLingvoID=en\r\n");
+    FileDownloader listo(QUrl(servilo->adreso() + "/datumoj/traduklisto.ini"), "traduklisto.ini");
+    FileDownloader traduko(QUrl(servilo->adreso() + "/datumoj/tradukoj/angla.trd"), "angla.trd");
+    QSignalSpy listoFino(&listo, &FileDownloader::downloaded), tradukoFino(&traduko, &FileDownloader::downloaded);
+    QTRY_VERIFY(listoFino.count() == 1 && tradukoFino.count() == 1);
+    QTest::qWait(50);
+    QCOMPARE(listoFino.count() + tradukoFino.count(), 2);
+    QCOMPARE(legas(savasLoko + "traduklisto.ini"), QByteArray("[0]\r\nLingvoID=en\r\n"));
+    QCOMPARE(legas(savasLoko + "angla.trd"), QByteArray("[Traduko]\r\nLingvoID=en\r\n"));
 }
 
 QTEST_MAIN(tst_filedownloader)
