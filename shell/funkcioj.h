@@ -20,6 +20,7 @@
 //   exercises/ekzercdatumoj.cpp   exercise data, the limit of a run
 //   exercises/blinko.cpp          the blink of a right answer
 
+#include <QHash>
 #include <QString>
 #include <functional>
 #include <QStringList>
@@ -181,6 +182,13 @@ QString agordoVojo();
 // from the header of a translation file in the resources.
 QStringList listaVico(QSettings& listo, int grupo);
 QStringList dosieraVico(const QString& nomo, const QString& datoDefaulto);
+
+// Groups of an INI file read as UTF-8, each key to its value as QSettings
+// gives it as text, without parsing the groups that are not wanted. A group
+// that is missing is missing from the result.
+QHash<QString, QHash<QString, QString>> legasGrupojn(const QString& vojo, const QStringList& grupoj);
+// The header group [Traduko] of a language file.
+QHash<QString, QString> legasKapon(const QString& vojo);
 
 // A translation file name from a language list or the settings that may be
 // used inside the writable folder: letters, digits, "_" and "-", then ".trd".

@@ -254,12 +254,10 @@ void lernilo::elshutas(const QString& vojo, const QString& nomo, const char* pos
 
 void lernilo::aktualigasTradukon()
 {
-    inidosiero traduko(savasLoko + sTradukoDosiero);
-    traduko.beginGroup(QStringLiteral("Traduko"));
-    sLingvoID = traduko.value(QStringLiteral("LingvoID"), QStringLiteral("en")).toString();
-    const QDate loka = QDate::fromString(traduko.value(QStringLiteral("Dato"), QStringLiteral("01.01.2000")).toString(),
+    const QHash<QString, QString> kapo = legasKapon(savasLoko + sTradukoDosiero);
+    sLingvoID = kapo.value(QStringLiteral("LingvoID"), QStringLiteral("en"));
+    const QDate loka = QDate::fromString(kapo.value(QStringLiteral("Dato"), QStringLiteral("01.01.2000")),
                                          QStringLiteral("dd.MM.yyyy"));
-    traduko.endGroup();
 
     const QString listoVojo = savasLoko + QStringLiteral("traduklisto.ini");
     if (!QFile::exists(listoVojo)) {
@@ -313,14 +311,16 @@ void lernilo::Traduku()
         }
     }
 
-    inidosiero traduko(vojo);
+    // Only the groups the main window needs: the lessons' groups, the bulk
+    // of the file, are read when a lesson is entered.
+    const auto traduko = legasGrupojn(vojo, {QStringLiteral("Traduko"), QStringLiteral("Mesagxoj"), QStringLiteral("Menuo"),
+                                             QStringLiteral("Konfig"), QStringLiteral("Menuo4")});
     const QString ne = QStringLiteral("Ne Tradukita");
-    traduko.beginGroup(QStringLiteral("Traduko"));
-    sTradukinto = traduko.value(QStringLiteral("Tradukinto"), QString()).toString();
-    sLingvoID = traduko.value(QStringLiteral("LingvoID"), QStringLiteral("en")).toString();
-    traduko.endGroup();
+    const QHash<QString, QString> kapo = traduko.value(QStringLiteral("Traduko"));
+    sTradukinto = kapo.value(QStringLiteral("Tradukinto"));
+    sLingvoID = kapo.value(QStringLiteral("LingvoID"), QStringLiteral("en"));
 
-    traduko.beginGroup(QStringLiteral("Mesagxoj"));
+    const QHash<QString, QString> mesaghojDeDosiero = traduko.value(QStringLiteral("Mesagxoj"));
     const std::pair<QString*, const char*> mesaghoj[] = {
         {&smRekomencu, "smRekomencu"}, {&smGratulon, "smGratulon"}, {&smDenove, "smDenove"},
         {&smModifis, "smModifis"}, {&smTondujo, "smTondujo"}, {&smDevasHaviKor, "smDevasHaviKor"},
@@ -329,13 +329,12 @@ void lernilo::Traduku()
         {&smNeSono, "smNeSono"},
     };
     for (const auto& m : mesaghoj)
-        *m.first = traduko.value(QLatin1String(m.second), ne).toString();
-    traduko.endGroup();
+        *m.first = mesaghojDeDosiero.value(QLatin1String(m.second), ne);
 
-    Direkto = traduko.value(QStringLiteral("Traduko/Direkto"), QStringLiteral("LTR")).toString();
+    Direkto = kapo.value(QStringLiteral("Direkto"), QStringLiteral("LTR"));
     QGuiApplication::setLayoutDirection(Direkto == QLatin1String("LTR") ? Qt::LeftToRight : Qt::RightToLeft);
 
-    traduko.beginGroup(QStringLiteral("Menuo"));
+    const QHash<QString, QString> menuoDeDosiero = traduko.value(QStringLiteral("Menuo"));
     const std::pair<const char*, QList<QLabel*>> menuo[] = {
         {"KioEstas", {ui->label_Kio}},
         {"KielUzi", {ui->label_Kiel}},
@@ -345,28 +344,25 @@ void lernilo::Traduku()
         {"KieButono", {ui->label_Kie}},
     };
     for (const auto& m : menuo) {
-        const QString teksto = traduko.value(QLatin1String(m.first), ne).toString();
+        const QString teksto = menuoDeDosiero.value(QLatin1String(m.first), ne);
         for (QLabel* etikedo : m.second)
             etikedo->setText(teksto);
     }
-    traduko.endGroup();
 
-    traduko.beginGroup(QStringLiteral("Konfig"));
+    const QHash<QString, QString> konfig = traduko.value(QStringLiteral("Konfig"));
     for (QLabel* etikedo : ui->Pagho_Konfigurado->findChildren<QLabel*>()) {
         if (etikedo->objectName().left(6) == QLatin1String("Konfig"))
-            etikedo->setText(traduko.value(etikedo->objectName().mid(7), ne).toString());
+            etikedo->setText(konfig.value(etikedo->objectName().mid(7), ne));
     }
     for (QAbstractButton* butono : {static_cast<QAbstractButton*>(ui->radioButton), static_cast<QAbstractButton*>(ui->radioButton_2),
                                     static_cast<QAbstractButton*>(ui->radioButton_3)})
         butono->setText(butono->text() + QChar(0x200E));
-    traduko.endGroup();
 
-    traduko.beginGroup(QStringLiteral("Menuo4"));
+    const QHash<QString, QString> kreditoj = traduko.value(QStringLiteral("Menuo4"));
     for (QLabel* etikedo : ui->Kredit->findChildren<QLabel*>()) {
         if (etikedo->objectName().left(6) == QLatin1String("Kredit"))
-            etikedo->setText(traduko.value(etikedo->objectName().mid(7), ne).toString());
+            etikedo->setText(kreditoj.value(etikedo->objectName().mid(7), ne));
     }
-    traduko.endGroup();
 
     ui->Tradukinto->setText(sTradukinto);
     ListigasLingvojn();

@@ -1,6 +1,7 @@
 #include "filedownloader.h"
 #include "funkcioj.h"
 
+#include <QCoreApplication>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QSaveFile>
@@ -9,6 +10,16 @@
 namespace {
 
 const QString listoNomo = QStringLiteral("traduklisto.ini");
+
+// A manager of its own would cost each download a new network thread and
+// set-up; the one manager lives as long as the application.
+QNetworkAccessManager& komunaReto()
+{
+    static QPointer<QNetworkAccessManager> reto;
+    if (!reto)
+        reto = new QNetworkAccessManager(QCoreApplication::instance());
+    return *reto;
+}
 
 // Whether group `grupo` of an INI text gives `shlosilo` a value.
 bool grupoHavas(const QString& teksto, const QString& grupo, const QString& shlosilo)
@@ -52,18 +63,20 @@ bool FileDownloader::legebla(const QByteArray& korpo, const QString& nomo)
 }
 
 FileDownloader::FileDownloader(QUrl url, QString dosierNomo, QObject* parent)
-    : QObject(parent), dosierNomo(dosierNomo)
+    : QObject(parent), reto(komunaReto()), dosierNomo(dosierNomo)
 {
     if (!akceptebla(dosierNomo)) {
         // Never asked for: the caller goes on as after any other failure.
         QMetaObject::invokeMethod(this, &FileDownloader::downloaded, Qt::QueuedConnection);
         return;
     }
-    connect(&reto, &QNetworkAccessManager::finished, this, &FileDownloader::fileDownloaded);
     QNetworkRequest peto(url);
     peto.setHeader(QNetworkRequest::UserAgentHeader, QStringLiteral("LerniloAndrojdo"));
     peto.setTransferTimeout(atendoMs);   // a silent server must not keep the learner waiting
+    // The reply is this download's own: it ends with the downloader.
     respondo = reto.get(peto);
+    respondo->setParent(this);
+    connect(respondo, &QNetworkReply::finished, this, [this, r = respondo.data()] { fileDownloaded(r); });
     // Nor may one that trickles, or that sends without end.
     connect(respondo, &QNetworkReply::downloadProgress, this, &FileDownloader::kontrolasGrandon);
     templimo.setSingleShot(true);

@@ -46,7 +46,7 @@ private slots:
 private:
     void kontrolasGrandon(qint64 ricevitaj, qint64 entute);
 
-    QNetworkAccessManager reto;
+    QNetworkAccessManager& reto;   // one for all the program's downloads
     QByteArray datumoj;
     QString dosierNomo;
     QPointer<QNetworkReply> respondo;

@@ -104,10 +104,9 @@ bool traduko::havasShlosilojn(const QString& sekcio)
 void traduko::ListigasLingvojn()
 {
     for (const QString& dosiero : senditajDosieroj()) {
-        inidosiero s(tradukujo() + dosiero);
-        s.beginGroup(QStringLiteral("Traduko"));
-        const QStringList vico = {s.value(QStringLiteral("LingvoID"), QStringLiteral("??")).toString(),
-                                  s.value(QStringLiteral("Lingvo"), QStringLiteral("?????????")).toString(), dosiero};
+        const QHash<QString, QString> kapo = legasKapon(tradukujo() + dosiero);
+        const QStringList vico = {kapo.value(QStringLiteral("LingvoID"), QStringLiteral("??")),
+                                  kapo.value(QStringLiteral("Lingvo"), QStringLiteral("?????????")), dosiero};
         lingvoj.append(vico);
         ui->lingvoj1->addItem(vico.at(1));
         ui->lingvoj2->addItem(vico.at(1));

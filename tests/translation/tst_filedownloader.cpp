@@ -26,6 +26,7 @@ private slots:
     void rifuzitajRespondoj();
     void nomojNePetataj_data();
     void nomojNePetataj();
+    void duSamtempe();
 
 private:
     QByteArray legas(const QString& vojo);
@@ -177,6 +178,22 @@ void tst_filedownloader::nomojNePetataj()
     QCOMPARE(servilo->petoj, QStringList());
     QCOMPARE(legas(savasLoko + "lernilomelo.ini"), QByteArray("[Gxenerala]\r\nLingvo=x\r\n"));
     QCOMPARE(QDir(ujo->path()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList() << "media" << "skribebla");
+}
+
+// Two transfers at once, as a change of language during the weekly list
+// fetch makes them: each ends once, with its own file.
+void tst_filedownloader::duSamtempe()
+{
+    servilo->metas("/datumoj/traduklisto.ini", "[0]\r\nLingvoID=en\r\n");
+    servilo->metas("/datumoj/tradukoj/angla.trd", "[Traduko]\r\nLingvoID=en\r\n");
+    FileDownloader listo(QUrl(servilo->adreso() + "/datumoj/traduklisto.ini"), "traduklisto.ini");
+    FileDownloader traduko(QUrl(servilo->adreso() + "/datumoj/tradukoj/angla.trd"), "angla.trd");
+    QSignalSpy listoFino(&listo, &FileDownloader::downloaded), tradukoFino(&traduko, &FileDownloader::downloaded);
+    QTRY_VERIFY(listoFino.count() == 1 && tradukoFino.count() == 1);
+    QTest::qWait(50);
+    QCOMPARE(listoFino.count() + tradukoFino.count(), 2);
+    QCOMPARE(legas(savasLoko + "traduklisto.ini"), QByteArray("[0]\r\nLingvoID=en\r\n"));
+    QCOMPARE(legas(savasLoko + "angla.trd"), QByteArray("[Traduko]\r\nLingvoID=en\r\n"));
 }
 
 QTEST_MAIN(tst_filedownloader)
