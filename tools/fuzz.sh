@@ -14,7 +14,7 @@
 set -eu
 cd "$(dirname "$0")/.."
 sekundoj=${1:-12}
-shift 2>/dev/null || true
+if [ $# -gt 0 ]; then shift; fi
 celoj=${*:-"fuzz_lecionfonto fuzz_ekzercdatumoj fuzz_traduko fuzz_traduklisto fuzz_agordoj"}
 
 tools/dependoj.sh
