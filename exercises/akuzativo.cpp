@@ -65,15 +65,10 @@ void akuzativo::on_BitBtn1_clicked()
     fermas = false;
     ui->BitBtn1->setEnabled(false);
     ui->BitBtn3->setEnabled(true);
-    ui->Placar1->setValue(kiom);
-    ui->Placar2->setValue(0);
-    ui->Placar3->setValue(0);
-    ui->Placar4->setValue(0);
+    nulasPoentaron(ui->Placar1, ui->Placar2, ui->Placar3, ui->Placar4, kiom);
     sukcesoj = 0;
     eraroj = 0;
-    uzitaj.clear();
-    for (int i = 0; i < kiom; ++i)
-        uzitaj.append(false);
+    uzitaj = neniuUzita(kiom);
     if (kiom < 1) {
         on_BitBtn3_clicked();
         return;

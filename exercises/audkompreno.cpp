@@ -53,17 +53,12 @@ void audkompreno::on_BitBtn8_clicked()
     ui->BitBtn10->setEnabled(true);
     ui->Edit1->setEnabled(true);
     ui->finita->setEnabled(true);
-    ui->Placar1->setValue(limigo(kiom));
-    ui->Placar2->setValue(0);
-    ui->Placar3->setValue(0);
-    ui->Placar4->setValue(0);
-    uzitaj.clear();
+    nulasPoentaron(ui->Placar1, ui->Placar2, ui->Placar3, ui->Placar4, limigo(kiom));
+    uzitaj = neniuUzita(kiom);
     sukcesoj = 0;
     eraroj = 0;
     for (QLabel* etikedo : qAsConst(etikedoj))
         etikedo->setText(QStringLiteral(" "));
-    for (int i = 0; i < kiom; ++i)
-        uzitaj.append(false);
     // Without data there is nothing to say.
     if (kiom == 0) {
         on_BitBtn10_clicked();

@@ -32,15 +32,10 @@ void ekzerco1::on_BitBtn1_clicked()
     kiom = _Matriz(&vortoj, QStringLiteral("0101"), QStringLiteral("D"));
     ui->BitBtn1->setEnabled(false);
     ui->BitBtn2->setEnabled(true);
-    ui->Placar1->setValue(celo());
-    ui->Placar2->setValue(0);
-    ui->Placar3->setValue(0);
-    ui->Placar4->setValue(0);
+    nulasPoentaron(ui->Placar1, ui->Placar2, ui->Placar3, ui->Placar4, celo());
     sukcesoj = 0;
     eraroj = 0;
-    uzitaj.clear();
-    for (int i = 0; i < kiom; ++i)
-        uzitaj.append(false);
+    uzitaj = neniuUzita(kiom);
     // Fewer than four words make no round: there is nothing to ask.
     if (celo() == 0) {
         on_BitBtn2_clicked();

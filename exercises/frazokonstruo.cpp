@@ -147,10 +147,7 @@ void frazokonstruo::on_BitBtn1_clicked()
 
     ui->BitBtn1->setEnabled(false);
     ui->BitBtn3->setEnabled(true);
-    ui->Placar1->setValue(kiom);
-    ui->Placar2->setValue(0);
-    ui->Placar3->setValue(0);
-    ui->Placar4->setValue(0);
+    nulasPoentaron(ui->Placar1, ui->Placar2, ui->Placar3, ui->Placar4, kiom);
     sukcesoj = 0;
     eraroj = 0;
     atendas = false;

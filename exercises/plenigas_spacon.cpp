@@ -73,9 +73,7 @@ void plenigas_spacon::on_BitBtn4_clicked()
     sukcesoj = 0;
     eraroj = 0;
 
-    uzitaj.clear();
-    for (int i = 0; i < kiom; ++i)
-        uzitaj.append(false);
+    uzitaj = neniuUzita(kiom);
     ui->BitBtn6->setEnabled(true);
     novafrazo();
 }

@@ -98,9 +98,7 @@ void prononco::on_PP_Startu_clicked()
     ui->PP_Haltu->setEnabled(true);
     kiom = _Matriz(&datumoj, objectName().right(4), QStringLiteral("D"));
     ui->Placar->setValue(limigo(kiom));
-    uzitaj.clear();
-    for (int i = 0; i < kiom; ++i)
-        uzitaj.append(false);
+    uzitaj = neniuUzita(kiom);
     ui->PP_Haltu->setFocus();
     novafrazo();
 }

@@ -45,9 +45,7 @@ void tajpekzerco::on_BitBtn1_clicked()
     eraroj = 0;
     vorto->clear();
     kontrolo->setEnabled(true);
-    uzitaj.clear();
-    for (int i = 0; i < kiom; ++i)
-        uzitaj.append(false);
+    uzitaj = neniuUzita(kiom);
     if (kiom < 1) {
         on_BitBtn3_clicked();
         return;

@@ -90,10 +90,7 @@ void vortoludo::on_BitBtn18_clicked()
         uzitaj.append(false);
         elektitaj.append(false);
     }
-    ui->Placar1->setValue(limigo(kiom));
-    ui->Placar2->setValue(0);
-    ui->Placar3->setValue(0);
-    ui->Placar4->setValue(0);
+    nulasPoentaron(ui->Placar1, ui->Placar2, ui->Placar3, ui->Placar4, limigo(kiom));
     sukcesoj = 0;
     eraroj = 0;
     okupita = false;

@@ -18,6 +18,7 @@
 //   written/sendado.cpp           hand-in
 //   written/presado.cpp           printing of a lesson
 //   exercises/ekzercdatumoj.cpp   exercise data, the limit of a run
+//   exercises/poentaro.cpp        the score row and the items of a new run
 //   exercises/blinko.cpp          the blink of a right answer
 
 #include <QHash>
@@ -29,6 +30,7 @@
 #include <QVector>
 
 class QObject;
+class QSpinBox;
 class QWidget;
 class QLabel;
 class QTabWidget;
@@ -212,6 +214,10 @@ int _Matriz2(QList<QStringList>* lista, QString id, QString tipo, int largho);
 extern QString sEkzercujo;
 // The most items one run of some exercises takes: n, but at most 40.
 int limigo(int n);
+// The start of a run: the score row shows the target and three zeros.
+void nulasPoentaron(QSpinBox* restantaj, QSpinBox* ghustaj, QSpinBox* eraraj, QSpinBox* procento, int celo);
+// The items of a run, none answered right yet.
+QList<bool> neniuUzita(int kiom);
 // Makes a widget blink for NumSec seconds to point at a right answer; the
 // window stays alive meanwhile.
 void tekstoblinko(QWidget* w);
