@@ -214,24 +214,29 @@ void tst_lernilo::navigiloPerKlavaro()
 
 void tst_lernilo::sagojLauDirekto_data()
 {
-    QTest::addColumn<QString>("direkto");
+    QTest::addColumn<QString>("dosiero");
+    QTest::addColumn<QByteArray>("direkto");   // written to the file first, unless empty
     QTest::addColumn<bool>("dekstrenMontrasDekstren");
-    QTest::newRow("left to right") << "LTR" << true;
-    QTest::newRow("right to left") << "RTL" << false;
+    QTest::newRow("left to right") << "provo.trd" << QByteArray("LTR") << true;
+    QTest::newRow("right to left") << "provo.trd" << QByteArray("RTL") << false;
+    // And every language the course ships that is written from right to left.
+    for (const QString& d : QDir(":/tradukoj", "*.trd").entryList()) {
+        if (legasKapon(":/tradukoj/" + d).value("Direkto") == QLatin1String("RTL"))
+            QTest::newRow(qPrintable(d)) << d << QByteArray() << false;
+    }
 }
 
 void tst_lernilo::sagojLauDirekto()
 {
-    QFETCH(QString, direkto);
+    QFETCH(QString, dosiero);
+    QFETCH(QByteArray, direkto);
     QFETCH(bool, dekstrenMontrasDekstren);
     // A translation in the writable folder comes before the one built in.
-    sTradukoDosiero = "provo.trd";
-    QFile dosiero(savasLoko + sTradukoDosiero);
-    QVERIFY(dosiero.open(QIODevice::WriteOnly));
-    dosiero.write("[Traduko]\r\nLingvoID=xx\r\n");
     if (!direkto.isEmpty())
-        dosiero.write("Direkto=" + direkto.toLatin1() + "\r\n");
-    dosiero.close();
+        QVERIFY(skribas(dosiero, "[Traduko]\r\nLingvoID=xx\r\nDirekto=" + direkto + "\r\n"));
+    sTradukoDosiero = dosiero;
+    fenestro->Traduku();
+    QCOMPARE(QGuiApplication::layoutDirection() == Qt::LeftToRight, dekstrenMontrasDekstren);
 
     klakas("Leciono4");
     const QImage antauen = QPixmap(":/ikonoj_androjdo/baseline_arrow_forward_black_36.png").toImage();
@@ -248,6 +253,7 @@ void tst_lernilo::sagojLauDirekto()
     QTest::keyClick(fenestro, dekstrenMontrasDekstren ? Qt::Key_Right : Qt::Key_Left, Qt::AltModifier);
     QCOMPARE(langetoj(4)->currentIndex(), 2);
     sTradukoDosiero.clear();
+    QGuiApplication::setLayoutDirection(Qt::LeftToRight);
 }
 
 void tst_lernilo::fermoElLecionoIrasHejmen()
