@@ -16,7 +16,7 @@ espeak-ng sox vorbis-tools ffmpeg
 fluidsynth timgm6mb-soundfont
 fonts-dejavu-core fonts-lohit-deva fonts-wqy-microhei fonts-ipafont-gothic
 hunspell myspell-eo
-poppler-utils xvfb xauth
+poppler-utils xvfb xauth nginx
 clang libclang-rt-14-dev
 $*
 "

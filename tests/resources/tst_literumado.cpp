@@ -25,6 +25,8 @@ QString senMarkoj(QString teksto)
     teksto.replace(linio, QStringLiteral(" "));
     teksto.remove(etikedo);
     teksto.replace(QStringLiteral("&nbsp;"), QStringLiteral(" "));
+    static const QRegularExpression montrataEtikedo(QStringLiteral("&lt;[^&]*&gt;"));   // a tag named in a text
+    teksto.remove(montrataEtikedo);
     return teksto;
 }
 
@@ -58,6 +60,7 @@ private slots:
     void initTestCase();
     void lecionojDatumojKajTraduko();
     void kanto();
+    void retejo();
 
 private:
     QStringList nekonataj(const QStringList& tekstoj);
@@ -150,6 +153,29 @@ void tst_literumado::kanto()
     QCOMPARE(kantataj.size(), 16);
     QVERIFY2(mankas.isEmpty(), qPrintable(mankas.join(" / ")));
     const QStringList eraroj = nekonataj(kantataj);
+    QVERIFY2(eraroj.isEmpty(), qPrintable(eraroj.join(", ")));
+}
+
+// The Esperanto of the course's web pages: each title's Esperanto half and
+// the section "Esperante" of the pages written in two languages.
+void tst_literumado::retejo()
+{
+    QStringList tekstoj;
+    for (const QString& nomo : {"rekomendoj.txt", "monitoroj.txt"}) {
+        QFile f(QStringLiteral(LERNILO_FONTOJ "/resources/retejo/") + nomo);
+        QVERIFY(f.open(QIODevice::ReadOnly));
+        bool esperanta = false;
+        for (const QString& linio : QString::fromUtf8(f.readAll()).split('\n')) {
+            if (linio.startsWith(QLatin1String("# ")))
+                tekstoj << linio.mid(2).section(QStringLiteral(" – "), 0, 0);
+            else if (linio.startsWith(QLatin1String("## ")))
+                esperanta = linio == QLatin1String("## Esperante");
+            else if (esperanta)
+                tekstoj << linio;
+        }
+    }
+    QVERIFY(tekstoj.size() > 10);
+    const QStringList eraroj = nekonataj(tekstoj);
     QVERIFY2(eraroj.isEmpty(), qPrintable(eraroj.join(", ")));
 }
 
