@@ -156,11 +156,15 @@ void tst_literumado::kanto()
     QVERIFY2(eraroj.isEmpty(), qPrintable(eraroj.join(", ")));
 }
 
-// The Esperanto of the course's web pages: each title's Esperanto half and
-// the section "Esperante" of the pages written in two languages.
+// The Esperanto of the course's web pages: the help page in Esperanto, each
+// title's Esperanto half and the section "Esperante" of the pages written in
+// two languages.
 void tst_literumado::retejo()
 {
     QStringList tekstoj;
+    QFile helpo(QStringLiteral(LERNILO_FONTOJ "/resources/retejo/kiel/esperanto.txt"));
+    if (helpo.open(QIODevice::ReadOnly))
+        tekstoj << QString::fromUtf8(helpo.readAll()).remove(QRegularExpression(QStringLiteral("\\[bildo \\S+")));
     for (const QString& nomo : {"rekomendoj.txt", "monitoroj.txt"}) {
         QFile f(QStringLiteral(LERNILO_FONTOJ "/resources/retejo/") + nomo);
         QVERIFY(f.open(QIODevice::ReadOnly));
