@@ -1,10 +1,10 @@
 // Writes the course's web site as static files:
 //
-//   retejilo SOURCE-FOLDER PICTURE-FOLDER OUTPUT-FOLDER SERVER
+//   retejilo SOURCE-FOLDER OUTPUT-FOLDER SERVER
 //
-// SOURCE-FOLDER is the project's root; PICTURE-FOLDER holds the drawings
-// rendered by the build; SERVER is the host the site is served from, which
-// the pages name in the place of %SERVILO%. The site has the list of languages with their dates,
+// SOURCE-FOLDER is the project's root, whose drawings (resources/bildoj) the
+// pages show as they are, in SVG; SERVER is the host the site is served
+// from, which the pages name in the place of %SERVILO%. The site has the list of languages with their dates,
 // every shipped language file, a page on how to use the course for every
 // language that has one in resources/retejo/kiel/, and the advice to
 // translators, all under /datumoj/ where the program looks for them.
@@ -96,6 +96,7 @@ QString htmlLingvo(const QString& id)
 // A page's text in its source form: "# " a title, "## " a heading, "- " an
 // item of a list, "[bildo PATH Text of the picture]" a drawing of the course,
 // an empty line between paragraphs. The text may hold <b>, <i> and <kbd>.
+// PATH is that of a drawing under resources/bildoj.
 struct Pagho
 {
     QString titolo;
@@ -194,15 +195,19 @@ int main(int argc, char** argv)
 {
     QCoreApplication app(argc, argv);
     const QStringList args = app.arguments();
-    if (args.size() != 5) {
-        std::fprintf(stderr, "usage: retejilo SOURCE-FOLDER PICTURE-FOLDER OUTPUT-FOLDER SERVER\n");
+    if (args.size() != 4) {
+        std::fprintf(stderr, "usage: retejilo SOURCE-FOLDER OUTPUT-FOLDER SERVER\n");
         return 2;
     }
-    const QString fonto = args.at(1), bildujo = args.at(2), celo = args.at(3);
-    servilo = QString(args.at(4)).remove(QRegularExpression(QStringLiteral(":.*")));
+    const QString fonto = args.at(1), celo = args.at(2);
+    const QString bildujo = fonto + QStringLiteral("/resources/bildoj");
+    servilo = QString(args.at(3)).remove(QRegularExpression(QStringLiteral(":.*")));
     const QString tradukujo = fonto + QStringLiteral("/resources/tradukoj");
     const QString retejujo = fonto + QStringLiteral("/resources/retejo");
     const QString datumoj = celo + QStringLiteral("/datumoj");
+    // Written anew each time, so that nothing removed from the sources stays.
+    for (const QString& ujo : {datumoj, celo + QStringLiteral("/monitoroj")})
+        QDir(ujo).removeRecursively();
     const QList<Lingvo> lingvoj = lingvojDe(tradukujo);
     bool bone = !lingvoj.isEmpty();
 
