@@ -5,8 +5,8 @@
 set -eu
 
 # Fonts for the scripts of the course's languages: DejaVu (Latin, Greek,
-# Cyrillic, Arabic), Lohit (Devanagari), WenQuanYi (Chinese, Korean) and
-# IPA Gothic (Japanese).
+# Cyrillic), Noto UI (Arabic and Persian, in italics too, and Devanagari),
+# WenQuanYi (Chinese, Korean) and IPA Gothic (Japanese).
 PAKOJ="
 build-essential cmake pkg-config
 qtbase5-dev qtbase5-dev-tools qtmultimedia5-dev libqt5multimedia5-plugins libqt5svg5-dev
@@ -14,7 +14,7 @@ gstreamer1.0-plugins-base gstreamer1.0-plugins-good gstreamer1.0-tools
 gstreamer1.0-pulseaudio gstreamer1.0-alsa pulseaudio pulseaudio-utils
 espeak-ng sox vorbis-tools ffmpeg
 fluidsynth timgm6mb-soundfont
-fonts-dejavu-core fonts-lohit-deva fonts-wqy-microhei fonts-ipafont-gothic
+fonts-dejavu-core fonts-noto-ui-core fonts-wqy-microhei fonts-ipafont-gothic
 hunspell myspell-eo
 poppler-utils xvfb xauth nginx
 clang libclang-rt-14-dev
